@@ -1,0 +1,23 @@
+#pragma once
+
+#include <functional>
+
+#include <QMessageBox>
+
+#include "support/Refusal.h"
+
+namespace corvane {
+
+/// Shows a modal message box with an OK button and returns when it was answered. The text is
+/// shown as it stands; nothing in it is taken for markup.
+void ShowMessage(QWidget* parent, const QString& text, const QString& title, MessageIcon icon);
+
+/// Asks with the buttons Yes and No; true for Yes.
+bool AskYesNo(QWidget* parent, const QString& text, const QString& title);
+
+/// Is told of every message box as soon as it is on the screen; a test answers it there, or fails
+/// because it did not expect one.
+using MessageBoxObserver = std::function<void(QMessageBox&)>;
+void SetMessageBoxObserver(MessageBoxObserver observer);
+
+}  // namespace corvane

@@ -1,0 +1,125 @@
+#include "support/NumberText.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+
+#include "formulas/RoundValue.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r\n";
+
+/// The value with so many decimals, rounded by the one rule; no locale decides its decimal point,
+/// and nothing is left of the sign of a zero.
+std::string FixedText(double value, int decimals) {
+  char text[400];
+  const auto end = std::to_chars(text, text + sizeof text, RoundToDecimals(value, decimals),
+                                 std::chars_format::fixed, decimals)
+                       .ptr;
+  std::string fixed(text, end);
+  const bool onlyZeros = fixed.find_first_not_of("-0.") == std::string::npos;
+  if (onlyZeros && fixed.front() == '-') fixed.erase(0, 1);
+  return fixed;
+}
+
+}  // namespace
+
+std::string_view Trim(std::string_view text) {
+  const auto first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+bool IsNumeric(std::string_view text) {
+  text = Trim(text);
+  if (!text.empty() && (text.front() == '+' || text.front() == '-')) text.remove_prefix(1);
+  int digits = 0;
+  int points = 0;
+  for (char c : text) {
+    if (c == '.') {
+      ++points;
+    } else if (c >= '0' && c <= '9') {
+      ++digits;
+    } else {
+      return false;
+    }
+  }
+  return digits > 0 && points <= 1;
+}
+
+double NumericValue(std::string_view text) {
+  if (!IsNumeric(text)) return 0;
+  text = Trim(text);
+  if (text.front() == '+') text.remove_prefix(1);
+  double value = 0;
+  std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+  return value;
+}
+
+std::optional<std::int16_t> WholeNumber(double value) {
+  const double whole = RoundToDecimals(value, 0);
+  if (!(whole >= INT16_MIN && whole <= INT16_MAX)) return std::nullopt;
+  return static_cast<std::int16_t>(whole);
+}
+
+std::optional<std::int16_t> WholeNumber(std::string_view text) {
+  if (!IsNumeric(text)) return std::nullopt;
+  return WholeNumber(NumericValue(text));
+}
+
+bool IsWhole(double value) {
+  return std::isfinite(value) && value == std::floor(value);
+}
+
+std::string FormatFixed2(double value) {
+  return FixedText(value, 2);
+}
+
+std::string FormatGrouped2(double value) {
+  std::string text = FixedText(value, 2);
+  const std::size_t firstDigit = text.front() == '-' ? 1 : 0;
+  for (std::size_t place = text.find('.'); place > firstDigit + 3;) {
+    place -= 3;
+    text.insert(place, 1, ',');
+  }
+  return text;
+}
+
+std::string FormatRate(double value) {
+  std::string text = FixedText(value, 4);
+  const std::size_t shortest = text.find('.') + 3;
+  while (text.size() > shortest && text.back() == '0') text.pop_back();
+  return text;
+}
+
+std::string FormatTerm(double value) {
+  std::string text = FixedText(value, 2);
+  const std::size_t firstDigit = text.front() == '-' ? 1 : 0;
+  if (text[firstDigit] == '0') text.erase(firstDigit, 1);
+  return text;
+}
+
+std::string FormatTwoDigits(double value) {
+  std::string text = FixedText(value, 0);
+  if (text.size() < 2) text.insert(0, 1, '0');
+  return text;
+}
+
+std::string FormatWhole(double value) {
+  return FixedText(value, 0);
+}
+
+std::string FormatPlain(double value) {
+  char text[400];
+  const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed).ptr;
+  return std::string(text, end);
+}
+
+std::string RewriteFixed2(const std::string& text) {
+  return IsNumeric(text) ? FormatFixed2(NumericValue(text)) : text;
+}
+
+}  // namespace corvane

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace corvane {
+
+/// Text without the blanks at its ends.
+std::string_view Trim(std::string_view text);
+
+/// True when the text, blanks trimmed, is an optional sign, digits and at most one point, with at
+/// least one digit. Thousands commas, exponents and currency signs make it no number; the decimal
+/// point is "." in every locale.
+bool IsNumeric(std::string_view text);
+
+/// The number that the text stands for, 0 when it is none.
+double NumericValue(std::string_view text);
+
+/// The number rounded half to even, or nothing when it is no number or does not fit 16 bits.
+std::optional<std::int16_t> WholeNumber(std::string_view text);
+
+/// WholeNumber of a value that is already a number.
+std::optional<std::int16_t> WholeNumber(double value);
+
+bool IsWhole(double value);
+
+// The number formats of the screens and reports. All of them round by the program's one rule (an
+// exact half goes to the even neighbour) and use "." whatever the locale.
+
+std::string FormatFixed2(double value);     ///< "######0.00": 1234.5 gives 1234.50
+std::string FormatGrouped2(double value);   ///< "##,##0.00": 1234.5 gives 1,234.50
+std::string FormatRate(double value);       ///< "######0.00##": 5 gives 5.00, 5.1234 stays
+std::string FormatTerm(double value);       ///< "#.00": 0.5 gives .50
+std::string FormatTwoDigits(double value);  ///< "00": 3 gives 03
+std::string FormatWhole(double value);      ///< "#0": 12.4 gives 12
+
+/// The shortest decimal text of the value: 365 gives "365", 4.5 gives "4.5".
+std::string FormatPlain(double value);
+
+/// The "######0.00" rewrite of a field on leaving it: a text that is no number stays as typed.
+std::string RewriteFixed2(const std::string& text);
+
+}  // namespace corvane
