@@ -1,0 +1,29 @@
+#include "formulas/CheckApy.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "shell/SessionRecord.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr double kTolerance = 0.05;
+
+/// What the binary form of two decimal figures can add to their difference.
+double BinaryNoise(double a, double b) {
+  const double size = std::max(std::fabs(a), std::fabs(b));
+  return 1e-9 + 2 * size * std::numeric_limits<double>::epsilon();
+}
+
+}  // namespace
+
+void CheckApy(SessionRecord& session, double disclosedApy, double computedApy) {
+  const double difference = std::fabs(disclosedApy - computedApy);
+  const bool within = difference <= kTolerance + BinaryNoise(disclosedApy, computedApy);
+  session.ApyVerdict = within ? kApyOk : kApyViolation;
+}
+
+}  // namespace corvane

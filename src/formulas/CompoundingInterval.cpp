@@ -1,0 +1,12 @@
+#include "formulas/CompoundingInterval.h"
+
+#include "shell/SessionRecord.h"
+
+namespace corvane {
+
+double CompoundingInterval(SessionRecord& session) {
+  if (session.CompoundingDays < 1) session.CompoundingDays = 1;
+  return session.CompoundingDays;
+}
+
+}  // namespace corvane
