@@ -112,6 +112,13 @@ std::string FormatWhole(double value) {
   return FixedText(value, 0);
 }
 
+std::string FormatDollars(double value) {
+  std::string text = FormatGrouped2(value);
+  const std::size_t firstDigit = text.front() == '-' ? 1 : 0;
+  if (text[firstDigit] == '0') text.erase(firstDigit, 1);
+  return text.insert(firstDigit, 1, '$');
+}
+
 std::string FormatPlain(double value) {
   char text[400];
   const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed).ptr;

@@ -47,6 +47,12 @@ TEST(NumberText, Formats) {
   EXPECT_EQ(FormatTwoDigits(3), "03");
   EXPECT_EQ(FormatTwoDigits(12), "12");
   EXPECT_EQ(FormatWhole(12.4), "12");
+  EXPECT_EQ(FormatDollars(0), "$.00");
+  EXPECT_EQ(FormatDollars(-5), "-$5.00");
+  EXPECT_EQ(FormatDollars(-0.25), "-$.25");
+  EXPECT_EQ(FormatDollars(0.995), "$1.00");
+  EXPECT_EQ(FormatDollars(100), "$100.00");
+  EXPECT_EQ(FormatDollars(1234567.891), "$1,234,567.89");
   EXPECT_EQ(FormatPlain(365), "365");
   EXPECT_EQ(FormatPlain(4.5), "4.5");
 }

@@ -1,0 +1,108 @@
+#include "reports/ReportFile.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fstream>
+
+#if __has_include(<sys/resource.h>)
+#include <sys/resource.h>
+#endif
+
+#include "reports/GoldenFile.h"
+
+namespace corvane {
+namespace {
+
+void WriteBytes(const std::string& path, std::string_view bytes) {
+  std::ofstream(PathOf(path), std::ios::binary) << bytes;
+}
+
+/// An empty folder of its own, with letters outside ASCII, holding a template.
+class ReportFile : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::filesystem::remove_all(PathOf(folder_));
+    std::filesystem::create_directories(PathOf(folder_));
+    WriteBytes(template_, "one ^tag^\r\ntwo\nthree");
+    WriteBytes(output_, "previous report");
+  }
+
+  ReportBuild Build(const std::string& templatePath, const std::string& outputPath) const {
+    return BuildReportFile(templatePath, outputPath,
+                           {ResolveFrom({{"^tag^", {value_, ""}}}), {}, {}});
+  }
+
+  std::size_t FileCount() const {
+    const std::filesystem::directory_iterator files(PathOf(folder_));
+    return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+  }
+
+  /// A refused build names the path and a reason, and leaves everything as it was.
+  void ExpectRefused(const ReportBuild& build, const std::string& path) {
+    ASSERT_TRUE(build.error.has_value()) << path;
+    EXPECT_EQ(build.error->path, path);
+    EXPECT_FALSE(build.error->reason.empty());
+    EXPECT_NE(build.error->reason, "Success");
+    EXPECT_EQ(build.text, "");
+    EXPECT_EQ(BytesOf(output_), "previous report");
+    EXPECT_EQ(FileCount(), 2u) << "no file is left beside";
+  }
+
+  const std::string folder_ = FileIn(testing::TempDir(), "b\xC3\xBCro reports");
+  const std::string template_ = FileIn(folder_, "template.txt");
+  const std::string output_ = FileIn(folder_, "r\xC3\xA9sum\xC3\xA9.html");
+  std::string value_ = "1";
+};
+
+TEST_F(ReportFile, EveryLineEndsInCrLfWhateverTheTemplateUses) {
+  const ReportBuild build = Build(template_, output_);
+  ASSERT_FALSE(build.error.has_value()) << build.error->reason;
+  EXPECT_EQ(BytesOf(output_), "one 1\r\ntwo\r\nthree\r\n");
+  EXPECT_EQ(build.text, "one 1twothree");
+  EXPECT_EQ(FileCount(), 2u);
+}
+
+TEST_F(ReportFile, LinesEndInLfOrCrLf) {
+  using Lines = std::vector<std::string>;
+  EXPECT_EQ(LinesOf("a\r\nb\n\nc"), (Lines{"a", "b", "", "c"}));
+  EXPECT_EQ(LinesOf("a\r\n"), Lines{"a"});
+  EXPECT_EQ(LinesOf("\r\n\r\n"), (Lines{"", ""}));
+  EXPECT_EQ(LinesOf("a\rb\r"), Lines{"a\rb"}) << "only the terminator's CR goes";
+  EXPECT_EQ(LinesOf(""), Lines{});
+}
+
+TEST_F(ReportFile, AFileThatCannotBeReadOrWrittenLeavesThePreviousReport) {
+  const std::string missing = FileIn(folder_, "missing.txt");
+  ExpectRefused(Build(missing, output_), missing);
+  ExpectRefused(Build(folder_, output_), folder_);
+  const std::string nowhere = FileIn(FileIn(folder_, "nowhere"), "report.html");
+  ExpectRefused(Build(template_, nowhere), nowhere);
+  ExpectRefused(Build(template_, folder_), folder_);
+}
+
+#if __has_include(<sys/resource.h>)
+TEST_F(ReportFile, AWriteThatBreaksOffLeavesThePreviousReport) {
+  rlimit previous{};
+  getrlimit(RLIMIT_FSIZE, &previous);
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit small = previous;
+  small.rlim_cur = 1000;
+  setrlimit(RLIMIT_FSIZE, &small);
+  value_.assign(100000, 'x');
+  const ReportBuild build = Build(template_, output_);
+  setrlimit(RLIMIT_FSIZE, &previous);
+  std::signal(SIGXFSZ, handler);
+  ExpectRefused(build, output_);
+}
+#endif
+
+TEST_F(ReportFile, TheMessageNamesThePathAndTheReason) {
+  const Refusal message = MessageFor(*Build(FileIn(folder_, "x"), output_).error);
+  EXPECT_EQ(message.text, "The report could not be written: " + FileIn(folder_, "x") +
+                              "\nNo such file or directory");
+  EXPECT_EQ(message.title, "Error!");
+}
+
+}  // namespace
+}  // namespace corvane
