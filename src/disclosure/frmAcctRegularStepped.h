@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+
+#include "disclosure/DisclosureEntry.h"
+#include "shell/Form.h"
+
+class QToolButton;
+
+namespace Ui {
+class frmAcctRegularStepped;
+}
+
+namespace corvane {
+
+/// The entry window of the disclosure workflow: balance, rate, term or dates, withdrawals and the
+/// disclosed APY of an account, of a stepped period or of a tier.
+class frmAcctRegularStepped : public Form {
+  Q_OBJECT
+
+ public:
+  explicit frmAcctRegularStepped(WindowRegistry& windows);
+  ~frmAcctRegularStepped() override;
+
+  void Form_Load() override;
+  void Form_Activate() override;
+
+  /// Lays the window out for the account in the session record.
+  void cmdSetProperties_Click();
+  /// Puts the stored entry of a period into the fields.
+  void Load_Back_Data(int period);
+  /// What the fields hold.
+  DisclosureEntry ReadFields() const;
+
+ private:
+  void BindFields();
+  void BindButtons();
+  void txtBal_LostFocus();
+  void txtTerm_Change();
+  void txtTerm_LostFocus(const QString& next);
+  void txtTierPerNum_LostFocus(const QString& next);
+  void TermDates_LostFocus(const QString& next);
+  void ImgCalendar_Click(int index);
+  void cmdCalculateResult_Click();
+  void cmdBack_Click();
+  void cmdAcctInfo_Click();
+  void cmdExit_Click();
+
+  void ShowCaptions();
+  void ShowGroups();
+  void EnableTermDates();
+  void EmptyTermDates();
+  void WriteCountedTerm();
+  void WriteFields(const DisclosureEntry& entry);
+  QLineEdit* Field(const char* name) const;
+  void InternalError();
+
+  std::unique_ptr<Ui::frmAcctRegularStepped> ui_;
+  QToolButton* imgCalendar_[2] = {};
+};
+
+}  // namespace corvane

@@ -1,0 +1,22 @@
+#include "platform/HelpViewer.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+#include "platform/MessageBox.h"
+#include "platform/ProgramFolder.h"
+#include "shell/ProgramTitle.h"
+
+namespace corvane {
+
+void ShowHelp(QWidget* parent, const std::filesystem::path& file, int /*context*/) {
+  const QString path = QString::fromStdString(PathText(file));
+  std::error_code failure;
+  const bool opened = std::filesystem::exists(file, failure) &&
+                      QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+  if (opened) return;
+  ShowMessage(parent, "The help file is missing or cannot be opened: " + path, kProgramTitle,
+              MessageIcon::Exclamation);
+}
+
+}  // namespace corvane

@@ -1,0 +1,27 @@
+#include "platform/Pictures.h"
+
+// Outside the namespace, as the macro declares a global function.
+static void LoadPictures() {
+  Q_INIT_RESOURCE(icons);
+}
+
+namespace corvane {
+
+namespace {
+
+QIcon Picture(const char* path) {
+  LoadPictures();
+  return QIcon(path);
+}
+
+}  // namespace
+
+QIcon ProgramIcon() {
+  return Picture(":/icons/corvane.png");
+}
+
+QIcon CalendarIcon() {
+  return Picture(":/icons/calendar.png");
+}
+
+}  // namespace corvane

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QIcon>
+
+namespace corvane {
+
+QIcon ProgramIcon();
+QIcon CalendarIcon();
+
+}  // namespace corvane

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <memory>
+
+#include "shell/Form.h"
+
+class QFrame;
+
+namespace Ui {
+class frmMain;
+}
+
+namespace corvane {
+
+/// The main menu, from which the two workflows start.
+class frmMain : public Form {
+  Q_OBJECT
+
+ public:
+  explicit frmMain(WindowRegistry& windows);
+  ~frmMain() override;
+
+  void Form_Load() override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void cmdAcctAdv_Click();
+  void cmdStatement_Click();
+  void cmdExit_Click();
+  void mnuShowTitle_Click();
+  void Form_KeyDown(int key);
+
+  QFrame* shape1_ = nullptr;
+
+  std::unique_ptr<Ui::frmMain> ui_;
+};
+
+}  // namespace corvane
