@@ -9,6 +9,7 @@ import csv
 from pathlib import Path
 
 import regular_cases
+import stepped_cases
 
 
 def write(name, cases):
@@ -22,3 +23,4 @@ def write(name, cases):
 
 if __name__ == "__main__":
     write("regular.csv", regular_cases)
+    write("stepped.csv", stepped_cases)
