@@ -9,6 +9,8 @@ import csv
 from pathlib import Path
 
 import regular_cases
+import stepped_cases
+import tier_cases
 
 
 def write(name, cases):
@@ -22,3 +24,5 @@ def write(name, cases):
 
 if __name__ == "__main__":
     write("regular.csv", regular_cases)
+    write("stepped.csv", stepped_cases)
+    write("tiers.csv", tier_cases)

@@ -1,0 +1,95 @@
+#include "formulas/SteppedApy.h"
+
+#include <gtest/gtest.h>
+
+#include "CaseTable.h"
+
+namespace corvane {
+namespace {
+
+/// Computes one period of a row as the program does and adds it to the session's sums.
+void AddPeriod(SessionRecord& session, const CaseRow& row, std::size_t k) {
+  session.WdrwlPeriods = row.List("w")[k];
+  session.BeginMonth = static_cast<std::int16_t>(row.List("months")[k]);
+  session.BeginYear = static_cast<std::int16_t>(row.List("years")[k]);
+  SteppedPeriod period;
+  period.number = static_cast<std::int16_t>(k + 1);
+  period.rate = row.List("rates")[k];
+  period.term = row.List("terms")[k];
+  period.balance =
+      session.Principal + (PeriodsBuildOnInterest(session) ? session.ComputedInterest : 0);
+  period.dailyRateFactor = session.DailyRateFactor;
+  SteppedPeriodResult result;
+  const auto refusal = CalcSteppedPeriod(session, period, result);
+  ASSERT_FALSE(refusal.has_value()) << refusal->text;
+  EXPECT_EQ(FormatFixed2(result.interest), SplitAt(row.Text("interests"), '/')[k]) << k;
+  session.ComputedInterest += result.interest;
+  session.TermUnits += result.termUnits;
+}
+
+TEST(SteppedApy, AgreesWithTheReference) {
+  for (const CaseRow& row : ReadCases("stepped.csv")) {
+    SCOPED_TRACE(row.line);
+    SessionRecord session = AccountOf(row);
+    session.AcctStepped = true;
+    session.BtwnReqIntWdrwl = row.Number("m");
+    session.Principal = row.Number("balance");
+    for (std::size_t k = 0; k < row.List("rates").size(); ++k) AddPeriod(session, row, k);
+    ASSERT_FALSE(CalcSteppedApy(session, row.Number("apy"), session.Principal));
+    EXPECT_EQ(FormatFixed2(session.ComputedInterest), row.Text("interest"));
+    EXPECT_NEAR(session.ComputedApy, row.Number("apy"), 1e-9);
+    EXPECT_EQ(session.TermUnits, row.Number("units"));
+    EXPECT_EQ(session.ApyVerdict, "OK");
+  }
+}
+
+TEST(SteppedApy, GivesTheRegulationsOwnFigures) {
+  // Regulation DD, Appendix A, Part I.B: 5 % for 91 days, then 5.5 %, daily compounding.
+  SessionRecord session;
+  session.RoundingDigits = 15;
+  session.CompoundDays = true;
+  session.DaysInYear365 = true;
+  session.Principal = 1000;
+  SteppedPeriodResult first;
+  SteppedPeriodResult second;
+  ASSERT_FALSE(CalcSteppedPeriod(session, {1, 5, 91, 1000, "1/365"}, first));
+  ASSERT_FALSE(CalcSteppedPeriod(session, {2, 5.5, 92, 1000 + first.interest, "1/365"}, second));
+  session.ComputedInterest = first.interest + second.interest;
+  session.TermUnits = first.termUnits + second.termUnits;
+  ASSERT_FALSE(CalcSteppedApy(session, 5.45, 1000));
+  EXPECT_EQ(FormatFixed2(session.ComputedInterest), "26.68");
+  EXPECT_DOUBLE_EQ(session.ComputedApy, 5.39);
+  EXPECT_EQ(session.ApyVerdict, "APY VIOLATION");
+}
+
+TEST(SteppedApy, YearlyInterestKeepsTheGrownPrincipalAndRoundsTheFigure) {
+  SessionRecord session;
+  session.RoundingDigits = 15;
+  session.CompoundYears = true;
+  session.EnteredTerm = 2;
+  double principal = 1000.01;
+  double interest = 0;
+  ASSERT_FALSE(CalcYearlyInterest(session, 5, 365, principal, interest));
+  EXPECT_DOUBLE_EQ(interest, 102.50);
+  EXPECT_NEAR(principal, 1102.511025, 1e-9);
+  session.EnteredTerm = 1e9;
+  EXPECT_TRUE(CalcYearlyInterest(session, 5, 365, principal, interest).has_value());
+}
+
+TEST(SteppedApy, WhatHasNoResultIsRefusedWithNothingStored) {
+  SessionRecord session;
+  session.RoundingDigits = 15;
+  session.CompoundDays = true;
+  SteppedPeriodResult result{7, 7};
+  EXPECT_TRUE(CalcSteppedPeriod(session, {1, 5, 91, 1000, "1/0"}, result).has_value());
+  session.ReqWdrwlMonths = true;
+  const auto refusal = CalcSteppedPeriod(session, {1, 5, 91, 1000, "1/365"}, result);
+  ASSERT_TRUE(refusal.has_value());
+  EXPECT_EQ(refusal->text, "Withdrawal periods do not agree with compound periods.");
+  EXPECT_EQ(result.interest, 7);
+  EXPECT_TRUE(CalcSteppedApy(session, 5, 1000).has_value()) << "no principal, no term";
+  EXPECT_EQ(session.ApyVerdict, "");
+}
+
+}  // namespace
+}  // namespace corvane
