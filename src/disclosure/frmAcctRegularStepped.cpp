@@ -44,6 +44,7 @@ bool BelongsToTermDates(const QString& control) {
 frmAcctRegularStepped::frmAcctRegularStepped(WindowRegistry& windows)
     : Form(windows, Role::Main), ui_(std::make_unique<Ui::frmAcctRegularStepped>()) {
   ui_->setupUi(this);
+  NameArrayElements();
   BindFields();
   BindButtons();
 }

@@ -88,6 +88,14 @@ void Form::RewriteOnLeaving(QLineEdit* field) {
               [field](const QString&) { SetFieldText(field, RewriteFixed2(FieldText(field))); });
 }
 
+void Form::NameArrayElements() {
+  static const QRegularExpression element("^(.+)_(\\d+)_$");
+  for (auto* widget : findChildren<QWidget*>(element)) {
+    const auto match = element.match(widget->objectName());
+    widget->setObjectName(match.captured(1) + "(" + match.captured(2) + ")");
+  }
+}
+
 void Form::NumericChange(QLineEdit* field, const NumericRule& rule) {
   const std::u16string typed = field->text().toStdU16String();
   const std::u16string repaired = rule.repairMinus ? FixMinusSign(typed) : typed;

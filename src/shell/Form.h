@@ -76,6 +76,10 @@ class Form : public QMainWindow {
   void OnGotFocus(QWidget* field, Handler handler);
   void OnLostFocus(QWidget* field, LostFocusHandler handler);
 
+  /// Gives the elements of field arrays back the names that they have in the form's file, such as
+  /// "txt_bne(3)": the generated code turns their parentheses into underscores.
+  void NameArrayElements();
+
   /// Applies the key filter and, on every change, the minus repair and the decimal limit.
   void BindNumeric(QLineEdit* field, const NumericRule& rule);
   void SelectTextOnFocus(QLineEdit* field);

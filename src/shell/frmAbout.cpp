@@ -44,8 +44,8 @@ void frmAbout::Form_Load() {
 
 void frmAbout::cmdSysInfo_Click() {
   if (StartSysInfo()) return;
-  ShowMessage(this, "System Information Is Unavailable At This Time",
-              kProgramTitle, MessageIcon::None);
+  ShowMessage(this, "System Information Is Unavailable At This Time", kProgramTitle,
+              MessageIcon::None);
 }
 
 }  // namespace corvane

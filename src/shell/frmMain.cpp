@@ -65,8 +65,8 @@ void frmMain::cmdAcctAdv_Click() {
 }
 
 void frmMain::cmdStatement_Click() {
-  ShowMessage(this, "Periodic statements are not part of this version yet.",
-              kProgramTitle, MessageIcon::None);
+  ShowMessage(this, "Periodic statements are not part of this version yet.", kProgramTitle,
+              MessageIcon::None);
 }
 
 void frmMain::cmdExit_Click() {
