@@ -1,0 +1,10 @@
+#!/bin/sh
+# Builds Corvane and runs all tests; installs missing packages first. Arguments go to ctest, such
+# as -R RegularApy.
+set -eu
+cd "$(dirname "$0")"
+
+scripts/install-packages.sh
+cmake --preset dev >/dev/null
+cmake --build --preset dev
+exec ctest --preset dev -j 2 "$@" </dev/null
