@@ -29,12 +29,13 @@ bool IsWhole(double value);
 // The number formats of the screens and reports. All of them round by the program's one rule (an
 // exact half goes to the even neighbour) and use "." whatever the locale.
 
-std::string FormatFixed2(double value);     ///< "######0.00": 1234.5 gives 1234.50
-std::string FormatGrouped2(double value);   ///< "##,##0.00": 1234.5 gives 1,234.50
-std::string FormatRate(double value);       ///< "######0.00##": 5 gives 5.00, 5.1234 stays
-std::string FormatTerm(double value);       ///< "#.00": 0.5 gives .50
-std::string FormatTwoDigits(double value);  ///< "00": 3 gives 03
-std::string FormatWhole(double value);      ///< "#0": 12.4 gives 12
+std::string FormatFixed2(double value);        ///< "######0.00": 1234.5 gives 1234.50
+std::string FormatGrouped2(double value);      ///< "##,##0.00": 1234.5 gives 1,234.50
+std::string FormatGroupedWhole(double value);  ///< "##,##0": 1234.5 gives 1,234
+std::string FormatRate(double value);          ///< "######0.00##": 5 gives 5.00, 5.1234 stays
+std::string FormatTerm(double value);          ///< "#.00": 0.5 gives .50
+std::string FormatTwoDigits(double value);     ///< "00": 3 gives 03
+std::string FormatWhole(double value);         ///< "#0": 12.4 gives 12
 
 /// The shortest decimal text of the value: 365 gives "365", 4.5 gives "4.5".
 std::string FormatPlain(double value);
