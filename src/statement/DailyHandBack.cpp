@@ -1,5 +1,8 @@
 #include "statement/DailyHandBack.h"
 
+#include <cmath>
+
+#include "formulas/FormulaRefusals.h"
 #include "shell/SessionRecord.h"
 #include "statement/InterestByDay.h"
 
@@ -34,6 +37,10 @@ StatementInterest ComputedInterestOf(const DailyBalances& daily) {
   return InterestByDay(account, BalancesOf(daily), RatesOf(daily));
 }
 
+bool IsFinite(const StatementInterest& computed) {
+  return std::isfinite(computed.averageBalance) && std::isfinite(computed.interest.total);
+}
+
 void MarkDetail(SessionRecord& session, const DailyBalances& daily) {
   session.DetailData = true;
   session.DetailLedger = daily.column == BalanceColumn::Ledger;
@@ -52,15 +59,18 @@ void StoreDays(SessionRecord& session, DailyBalances& daily) {
   (ledger ? session.LedgerDaysEntered : session.CollectedDaysEntered) = true;
 }
 
-void ComputeAdb(SessionRecord& session, DailyBalances& daily) {
-  StoreDays(session, daily);
+std::optional<Refusal> ComputeAdb(SessionRecord& session, DailyBalances& daily) {
+  FillRates(daily);
   const StatementInterest computed = ComputedInterestOf(daily);
+  if (!IsFinite(computed)) return NotComputable();
+  StoreDays(session, daily);
   daily.interest = computed.interest.ofDay;
   session.ComputedAdb = computed.averageBalance;
   if (!IsLedgerOfBasis2(session, daily)) {
     session.InterestAmount = InterestHandedBack(daily, computed);
   }
   MarkDetail(session, daily);
+  return std::nullopt;
 }
 
 bool DetailFits(const SessionRecord& session, const StatementEntry& entry) {

@@ -11,7 +11,8 @@ void StoreDays(SessionRecord& session, DailyBalances& daily);
 /// "Compute ADB": hands the average and the interest back through the record. With both minimums
 /// the interest is that of the ADB method, and 0 where the daily balance method is in force; with
 /// basis 2 the ledger column hands back its average only. The days become the report's detail.
-void ComputeAdb(SessionRecord& session, DailyBalances& daily);
+/// Figures that are not finite are refused, and nothing is stored.
+std::optional<Refusal> ComputeAdb(SessionRecord& session, DailyBalances& daily);
 
 /// Whether Show Detail may show the stored days: the last Compute ADB handed them back for a
 /// column of the basis, and its average and days still stand in the window.

@@ -26,7 +26,7 @@ struct Windows : EntryExample {
     for (std::size_t day = first; day < end; ++day) TakeDay(daily, day, {balance, rate});
   }
   void Hand(BalanceColumn column) {
-    ComputeAdb(session, daily);
+    EXPECT_EQ(Told(ComputeAdb(session, daily)), "");
     FinishCompute(session, entry, column);
   }
   void Compute(BalanceColumn column, const char* balance) {
@@ -194,6 +194,16 @@ TEST(DailyBalances, ASteppedAccountKeepsItsTypedRates) {
   w.Hand(Ledger);
   EXPECT_EQ(w.entry.txtIntAmt.text, "4.50");
   EXPECT_EQ(w.session.LedgerDayRates.At(16), 7.3);
+}
+
+TEST(DailyBalances, BalancesBeyondAnyNumberAreRefusedAndNotStored) {
+  Windows w;
+  w.Open(Ledger);
+  w.Type(0, 30, std::string(308, '9').c_str());
+  EXPECT_EQ(Told(ComputeAdb(w.session, w.daily)),
+            "The entries give a result that cannot be computed. Please correct them. @ ");
+  EXPECT_EQ(w.session.LedgerDayBalances.Last(), 0);
+  EXPECT_FALSE(w.session.DetailData);
 }
 
 TEST(DailyBalances, PagesHoldThirtyThreeDaysAndEndWithThePeriod) {
