@@ -96,6 +96,8 @@ struct SessionRecord {
   Table<std::string> RptVerdict;
 
   // Statement entry.
+  Flag AdditionalApy;                ///< the additional APY formula applies
+  double CompoundingPeriodDays = 0;  ///< days of its compounding period
   Flag UseAdb;
   Flag UseDailyBal;
   double MinAdb = 0;
@@ -126,6 +128,10 @@ struct SessionRecord {
   Flag DailyBalReset;
   Flag DailyFlag1;
   Flag DailyFlag2;
+  Flag DetailData;              ///< the day tables hold what the last Compute ADB handed back
+  Flag DetailLedger;            ///< it was the ledger column's, else the collected column's
+  double DetailAdb = 0;         ///< the average that it handed back
+  std::int16_t DetailDays = 0;  ///< the days that the average was taken over
   Table<double> LedgerDayBalances;
   Table<double> LedgerDayRates;
   Table<double> CollectedDayBalances;

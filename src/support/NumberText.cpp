@@ -1,5 +1,6 @@
 #include "support/NumberText.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -23,6 +24,16 @@ std::string FixedText(double value, int decimals) {
   const bool onlyZeros = fixed.find_first_not_of("-0.") == std::string::npos;
   if (onlyZeros && fixed.front() == '-') fixed.erase(0, 1);
   return fixed;
+}
+
+/// The number text with a comma before every three digits of its whole part.
+std::string Grouped(std::string text) {
+  const std::size_t firstDigit = text.front() == '-' ? 1 : 0;
+  for (std::size_t place = std::min(text.find('.'), text.size()); place > firstDigit + 3;) {
+    place -= 3;
+    text.insert(place, 1, ',');
+  }
+  return text;
 }
 
 }  // namespace
@@ -79,13 +90,11 @@ std::string FormatFixed2(double value) {
 }
 
 std::string FormatGrouped2(double value) {
-  std::string text = FixedText(value, 2);
-  const std::size_t firstDigit = text.front() == '-' ? 1 : 0;
-  for (std::size_t place = text.find('.'); place > firstDigit + 3;) {
-    place -= 3;
-    text.insert(place, 1, ',');
-  }
-  return text;
+  return Grouped(FixedText(value, 2));
+}
+
+std::string FormatGroupedWhole(double value) {
+  return Grouped(FixedText(value, 0));
 }
 
 std::string FormatRate(double value) {

@@ -36,6 +36,7 @@ std::string FormatTerm(double value);       ///< "#.00": 0.5 gives .50
 std::string FormatTwoDigits(double value);  ///< "00": 3 gives 03
 std::string FormatWhole(double value);      ///< "#0": 12.4 gives 12
 std::string FormatDollars(double value);    ///< "$#,###.00": -1234.5 gives -$1,234.50, 0 gives $.00
+std::string FormatGroupedWhole(double value);  ///< "##,##0": 1234.5 gives 1,234
 
 /// The shortest decimal text of the value: 365 gives "365", 4.5 gives "4.5".
 std::string FormatPlain(double value);

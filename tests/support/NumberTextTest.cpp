@@ -36,6 +36,8 @@ TEST(NumberText, Formats) {
   EXPECT_EQ(FormatGrouped2(1234567.891), "1,234,567.89");
   EXPECT_EQ(FormatGrouped2(-123.4), "-123.40");
   EXPECT_EQ(FormatGrouped2(-123456), "-123,456.00");
+  EXPECT_EQ(FormatGroupedWhole(0), "0");
+  EXPECT_EQ(FormatGroupedWhole(1234567.5), "1,234,568");
   EXPECT_EQ(FormatRate(5), "5.00");
   EXPECT_EQ(FormatRate(5.1234), "5.1234");
   EXPECT_EQ(FormatRate(5.12), "5.12");

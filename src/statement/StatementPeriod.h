@@ -1,0 +1,38 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "statement/StatementEntry.h"
+#include "support/Refusal.h"
+
+namespace corvane {
+
+/// The most days that a statement period may have.
+inline constexpr int kLongestPeriod = 96;
+
+/// What asks for the period to be counted; the messages differ.
+enum class PeriodCaller { Button, Calendar, DaysField };
+
+/// Fills every enabled days field that holds "0" (after the calendar also an empty one) with the
+/// days between the two dates, less the 29 Februaries that do not count, and stores the start
+/// date. Refuses dates that are none, and a period of fewer than 1 or more than 96 days, whose
+/// dates are emptied.
+std::optional<Refusal> CheckStatementPeriod(SessionRecord& session, StatementEntry& entry,
+                                            PeriodCaller caller);
+
+/// Stores the day on which the period starts: the start date where it is valid, else today.
+void StorePeriodStart(SessionRecord& session, const StatementEntry& entry);
+
+/// Whether leaving a days field for the named control (or menu item) counts the period: not on
+/// the way to the dates and not on the way out of the window.
+bool LeavingCountsPeriod(std::string_view nextControl);
+
+/// The dates that the calendar asks for: the empty ones, both when both are filled.
+struct DatesToAsk {
+  bool start;
+  bool end;
+};
+DatesToAsk DatesForCalendar(const StatementEntry& entry);
+
+}  // namespace corvane

@@ -1,0 +1,116 @@
+#!/usr/bin/env python3
+"""Works out, in decimal arithmetic, what the statement tests compare with.
+
+Written from Regulation DD, Appendix A, Part II, and the program's rules for interest by day; it
+shares nothing with the program. Run it in its own folder to write the three tables anew:
+  statement_days.csv   the balances and step rates of 96 days
+  interest_by_day.csv  average daily balance and interest of every kind of account
+  apy_earned.csv       annual percentage yield earned, by both formulas
+"""
+from decimal import ROUND_HALF_EVEN, Decimal, getcontext
+from itertools import product
+
+getcontext().prec = 60
+
+TIERS = [("0", "1.05"), ("1000", "2.5"), ("2500", "4.1265"), ("15000", "5.75")]  # above, percent
+RATE = Decimal("3.65")
+MINIMUM_ADB, MINIMUM_DAILY = Decimal(1000), Decimal(500)
+YEAR = {"varied": 365, "low": 366}
+DAYS = [1, 33, 34, 66, 67, 96]
+
+
+def rounded(value, places):
+    return value.quantize(Decimal(1).scaleb(-places), rounding=ROUND_HALF_EVEN)
+
+
+def balances(pattern):
+    """Every bound, a cent above it, a negative day, a zero and plain figures; or small ones."""
+    special = ["1000", "1000.01", "2500", "2500.01", "15000", "15000.01", "-50", "0", "499.99",
+               "500", "100000"]
+    if pattern == "low":
+        return [Decimal(400 + 17 * d % 250) + Decimal(d) / 100 for d in range(96)]
+    cells = [Decimal(900 + 613 * d % 7000) + Decimal(37 * d % 100) / 100 for d in range(96)]
+    for position, text in enumerate(special):
+        cells[3 + 8 * position] = Decimal(text)
+    return cells
+
+
+def step_rates():
+    return [Decimal("2.5") + Decimal(d // 20) / 4 + Decimal(d % 3) / 10000 for d in range(96)]
+
+
+def daily(percent, year):
+    return rounded(Decimal(percent) / 100 / year, 15)
+
+
+def one_day(kind, balance, carried, step, year):
+    """Interest of one day; carried is earlier interest that counts as balance."""
+    if kind == "regular":
+        return daily(RATE, year) * (balance + carried)
+    if kind == "stepped":
+        return daily(step, year) * (balance + carried)
+    if kind == "tierA":
+        rate = [r for above, r in TIERS if balance > Decimal(above) or above == "0"][-1]
+        return daily(rate, year) * (balance + carried)
+    split = balance + carried
+    ceilings = [Decimal(above) for above, _ in TIERS[1:]] + [Decimal("Infinity")]
+    return sum(daily(rate, year) * max(min(split, top) - Decimal(above), Decimal(0))
+               for (above, rate), top in zip(TIERS, ceilings))
+
+
+def earned(kind, day_balances, rates, every, year):
+    """Sum over the earning days; on each day after a full period the sum so far earns too."""
+    total = Decimal(0)
+    for number, (balance, rate) in enumerate(zip(day_balances, rates), start=1):
+        new_period = every > 0 and number > 1 and (number - 1) % every == 0
+        total += rounded(one_day(kind, balance, total if new_period else 0, rate, year), 15)
+    return total
+
+
+def interest(kind, method, minimums, pattern, days, every):
+    counted = [max(b, Decimal(0)) for b in balances(pattern)[:days]]
+    rates, year = step_rates()[:days], YEAR[pattern]
+    adb = rounded(sum(counted) / days, 2)
+    if method == "adb" and kind != "stepped":
+        if minimums in ("adb", "both") and adb < MINIMUM_ADB:
+            return adb, Decimal(0)
+        if every == 0:
+            return adb, rounded(one_day(kind, adb, 0, 0, year) * days, 15)
+        return adb, earned(kind, [adb] * days, rates, every, year)
+    floor = MINIMUM_DAILY if minimums in ("daily", "both") else Decimal(0)
+    earning = [(b, r) for b, r in zip(counted, rates) if b >= floor]
+    return adb, earned(kind, [b for b, _ in earning], [r for _, r in earning], every, year)
+
+
+def apy(amount, balance, days, year):
+    power = (1 + amount / balance) ** (Decimal(year) / days)
+    return 100 * (power - 1)
+
+
+def apy_additional(amount, balance, days, year, period):
+    power = (1 + amount / balance / days * period) ** (Decimal(year) / period)
+    return 100 * (power - 1)
+
+
+def write(name, heading, rows):
+    with open(name, "w", newline="\n") as table:
+        table.write(heading + "\n")
+        table.writelines(",".join(str(cell) for cell in row) + "\n" for row in rows)
+
+
+def main():
+    write("statement_days.csv", "varied,low,steprate",
+          zip(balances("varied"), balances("low"), step_rates()))
+    cases = product(["regular", "stepped", "tierA", "tierB"], ["adb", "daily"],
+                    ["none", "adb", "daily", "both"], ["varied", "low"], DAYS, [0, 1, 30])
+    write("interest_by_day.csv", "kind,method,minimums,pattern,days,every,adb,interest",
+          ((*c, *(lambda r: (r[0], rounded(r[1], 15)))(interest(*c))) for c in cases))
+    entries = [(Decimal(i), Decimal(b), d, y, p) for (i, b), d, y, p in product(
+        [("5.25", "1000"), ("12.50", "10000"), ("0", "250"), ("812.37", "99999.99")],
+        [1, 30, 31, 96], [365, 366], [28, 91, 365])]
+    write("apy_earned.csv", "interest,balance,days,year,period,apy,additional",
+          ((*e, rounded(apy(*e[:4]), 12), rounded(apy_additional(*e), 12)) for e in entries))
+
+
+if __name__ == "__main__":
+    main()
