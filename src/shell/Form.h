@@ -26,6 +26,7 @@ struct NumericRule {
   int decimals = -1;  ///< most decimals allowed, -1 for no limit
   const char* kind = "";
   bool enterMovesOn = false;
+  bool digitsOnly = false;
 };
 
 /// The window that all others are built on. It gives a form its life (load once, activation by
@@ -104,7 +105,7 @@ class Form : public QMainWindow {
   bool TakeFocus(QAbstractButton* button);
   bool CommitFor(QAction* item);
   void NumericChange(QLineEdit* field, const NumericRule& rule);
-  bool RefusesKey(QLineEdit* field, int key, const QString& text, bool enterMovesOn);
+  bool RefusesKey(QLineEdit* field, int key, const QString& text, const NumericRule& rule);
 
   WindowRegistry& windows_;
   Role role_;
