@@ -17,6 +17,8 @@ WindowRegistry::~WindowRegistry() {
     open_.pop_back();
     delete form;
   }
+  // Forms that closed themselves must not outlive what their browsers need.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 Form* WindowRegistry::FindForm(std::type_index type) const {
