@@ -75,6 +75,7 @@ void NamePeriods(const SessionRecord& session, EntryCaptions& captions) {
 EntryCaptions CaptionsFor(const SessionRecord& session) {
   EntryCaptions captions;
   captions.lblAcctType = Banner(session);
+  captions.lblMethod = session.AcctTierA ? "Method A" : "Method B";
   captions.lblAcctInfo = CompoundingInfo(session);
   captions.lblPerMessage = "(Stepped/Tiered Rates Only)";
   captions.frmPeriodNumber = captions.lblTierPerNum = "Number Of Periods";

@@ -154,6 +154,7 @@ void frmAcctRegularStepped::ShowCaptions() {
   const EntryCaptions captions = CaptionsFor(Session());
   const std::pair<QLabel*, const std::string&> labels[] = {
       {ui_->lblAcctType, captions.lblAcctType},
+      {ui_->lblMethod, captions.lblMethod},
       {ui_->lblAcctInfo, captions.lblAcctInfo},
       {ui_->lblPerMessage, captions.lblPerMessage},
       {ui_->lblTierPerNum, captions.lblTierPerNum},

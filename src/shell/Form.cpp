@@ -13,7 +13,20 @@
 
 namespace corvane {
 
+namespace {
+
+/// Disabled fields show figures that have to be read: their text is fainter, not all but gone.
+QPalette ReadableWhenDisabled(QPalette palette) {
+  QColor text = palette.color(QPalette::Active, QPalette::Text);
+  text.setAlphaF(0.65F);
+  palette.setColor(QPalette::Disabled, QPalette::Text, text);
+  return palette;
+}
+
+}  // namespace
+
 Form::Form(WindowRegistry& windows, Role role) : windows_(windows), role_(role) {
+  setPalette(ReadableWhenDisabled(palette()));
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
     const bool isControl = now && now->window() == this && !qobject_cast<QMenuBar*>(now);
     if (isControl) MoveFocus(now);

@@ -48,6 +48,8 @@ class Form : public QMainWindow {
   virtual void Form_Load() {}
   /// Runs when the program's own navigation brings the form to the front.
   virtual void Form_Activate() {}
+  /// True for a form that centres itself; any other shows where the window before it stood.
+  virtual bool PlacesItself() const { return false; }
   /// Asked before the frame closes the form; false keeps it open.
   virtual bool Form_QueryUnload() { return true; }
 

@@ -33,8 +33,15 @@ void WindowRegistry::Add(std::type_index type, Form* form) {
   form->Form_Load();
 }
 
+void WindowRegistry::PlaceBeforeShowing(Form& form) {
+  KeepInsideWorkArea(form);
+  const QWidget* before = QApplication::activeWindow();
+  const bool follows = before && form.WindowRole() == Form::Role::Main && !form.PlacesItself();
+  if (follows) PlaceOver(form, *before);
+}
+
 void WindowRegistry::BringToFront(Form& form) {
-  if (!form.isVisible()) KeepInsideWorkArea(form);
+  if (!form.isVisible()) PlaceBeforeShowing(form);
   form.show();
   form.raise();
   form.activateWindow();
