@@ -19,6 +19,11 @@ void WindowTest::TearDown() {
   SetToday({});
 }
 
+void WindowTest::Activate() {
+  if (!front_->isActiveWindow()) front_->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(front_));
+}
+
 void WindowTest::Answer(QMessageBox& box) {
   const std::string text = box.text().toStdString();
   if (expected_.empty()) {
@@ -40,6 +45,7 @@ void WindowTest::Answer(QMessageBox& box) {
 void WindowTest::Type(const QString& field, const QString& text) {
   auto* edit = Get<QLineEdit>(field);
   if (!edit) return;
+  Activate();
   ASSERT_TRUE(edit->isVisible() && edit->isEnabled()) << field.toStdString() << " takes no entry";
   QTest::mouseClick(edit, Qt::LeftButton);
   QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
@@ -48,12 +54,14 @@ void WindowTest::Type(const QString& field, const QString& text) {
 }
 
 void WindowTest::Keys(const QString& text) {
+  Activate();
   for (const QChar& letter : text) {
     QTest::keyClick(QApplication::focusWidget(), letter.toLatin1());
   }
 }
 
 void WindowTest::Key(int key, Qt::KeyboardModifiers modifiers) {
+  Activate();
   QWidget* receiver = QApplication::focusWidget();
   QTest::keyClick(receiver ? receiver : front_, static_cast<Qt::Key>(key), modifiers);
 }
@@ -61,6 +69,7 @@ void WindowTest::Key(int key, Qt::KeyboardModifiers modifiers) {
 void WindowTest::Click(const QString& button) {
   auto* control = Get<QAbstractButton>(button);
   if (!control) return;
+  Activate();
   ASSERT_TRUE(control->isVisible() && control->isEnabled()) << button.toStdString();
   QTest::mouseClick(control, Qt::LeftButton);
   QCoreApplication::processEvents();
@@ -98,7 +107,8 @@ std::string WindowTest::Caption(const QString& label) const {
   return control ? control->text().toStdString() : "";
 }
 
-std::string WindowTest::Focus() const {
+std::string WindowTest::Focus() {
+  Activate();
   const QWidget* focus = QApplication::focusWidget();
   return focus ? focus->objectName().toStdString() : "";
 }

@@ -37,9 +37,7 @@ class WindowTest : public ::testing::Test {
     EXPECT_TRUE(QTest::qWaitFor([this] { return IsVisible<AForm>(); })) << "window is not shown";
     AForm& form = windows.Get<AForm>();
     front_ = &form;
-    // Without a window manager nobody else brings it back once a window above it has closed.
-    if (!form.isActiveWindow()) form.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+    Activate();
     return form;
   }
 
@@ -75,12 +73,15 @@ class WindowTest : public ::testing::Test {
   bool IsShown(const QString& control) const { return Get<QWidget>(control)->isVisible(); }
   bool IsEnabled(const QString& control) const { return Get<QWidget>(control)->isEnabled(); }
   /// Name of the control that has the focus.
-  std::string Focus() const;
+  std::string Focus();
 
   SessionRecord session;
   WindowRegistry windows{session};
 
  private:
+  /// Without a window manager nobody else brings the window in front back once a message box or
+  /// another window above it has closed.
+  void Activate();
   void Answer(QMessageBox& box);
 
   Form* front_ = nullptr;

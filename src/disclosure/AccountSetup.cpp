@@ -108,7 +108,17 @@ std::optional<Refusal> StoreDaysInYear(SessionRecord& session, AccountSetup& set
                  kKeyEntryError, MessageIcon::None};
 }
 
+void ForgetEntries(SessionRecord& session) {
+  session.EntryDataKept = false;
+  session.TierFormLoaded = false;
+  session.TierPeriodCounter = 0;
+  session.EntryNavState = 0;
+  session.PeriodCount = 0;
+  ClearTierTables(session);
+}
+
 void ResetForNewAccount(SessionRecord& session) {
+  ForgetEntries(session);
   session.TierNumber = 0;
   session.PeriodNumber = 0;
   session.PrevAcctTypeCode = 1;
@@ -117,9 +127,6 @@ void ResetForNewAccount(SessionRecord& session) {
   session.CompoundMonths = false;
   session.CompoundYears = false;
   session.TierPeriodCounter = 1;
-  session.EntryDataKept = false;
-  session.TierFormLoaded = false;
-  ClearTierTables(session);
 }
 
 }  // namespace corvane

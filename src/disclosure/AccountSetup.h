@@ -48,6 +48,9 @@ std::optional<Refusal> CheckMonthsByMonths(const SessionRecord& session);
 /// notice says so when the choice was "No", which then becomes "Yes".
 std::optional<Refusal> StoreDaysInYear(SessionRecord& session, AccountSetup& setup);
 
+/// Drops what was entered for an account: kept entries, the tier table and the counters over them.
+void ForgetEntries(SessionRecord& session);
+
 /// What New Account resets in the record; the institution is the caller's to keep.
 void ResetForNewAccount(SessionRecord& session);
 

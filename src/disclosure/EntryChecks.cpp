@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "disclosure/EntrySequence.h"
 #include "disclosure/EntryTerm.h"
 #include "formulas/DailyRateFactor.h"
 #include "formulas/RoundValue.h"
@@ -43,7 +44,7 @@ bool Stepped(const Checked& c) {
   return c.session.AcctStepped;
 }
 bool Tiered(const Checked& c) {
-  return c.session.AcctTierA || c.session.AcctTierB;
+  return IsTiered(c.session);
 }
 bool TieredB(const Checked& c) {
   return c.session.AcctTierB;

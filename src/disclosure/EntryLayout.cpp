@@ -1,5 +1,6 @@
 #include "disclosure/EntryLayout.h"
 
+#include "disclosure/EntrySequence.h"
 #include "disclosure/EntryTerm.h"
 #include "shell/SessionRecord.h"
 #include "support/NumberText.h"
@@ -7,10 +8,6 @@
 namespace corvane {
 
 namespace {
-
-bool IsTiered(const SessionRecord& session) {
-  return session.AcctTierA || session.AcctTierB;
-}
 
 std::string Banner(const SessionRecord& session) {
   if (session.AcctRegular) return "  REGULAR ACCOUNT  ";
@@ -53,11 +50,10 @@ std::string TermLabel(const SessionRecord& session) {
 }
 
 /// Which bound of the tier the balance field holds.
-std::string TierEnd(const SessionRecord& session) {
+std::string BoundCaption(const SessionRecord& session) {
   if (!session.AcctTierB) return "";
   if (session.PeriodNumber <= 1) return "  Low/High";
-  const bool isLowEnd = (session.PeriodCount + 1) % 2 == 0;
-  return isLowEnd ? "   Low End" : "  High End";
+  return EndOfEntry(CurrentEntry(session)) == TierEnd::Low ? "   Low End" : "  High End";
 }
 
 void NamePeriods(const SessionRecord& session, EntryCaptions& captions) {
@@ -79,13 +75,14 @@ void NamePeriods(const SessionRecord& session, EntryCaptions& captions) {
 EntryCaptions CaptionsFor(const SessionRecord& session) {
   EntryCaptions captions;
   captions.lblAcctType = Banner(session);
+  captions.lblMethod = session.AcctTierA ? "Method A" : "Method B";
   captions.lblAcctInfo = CompoundingInfo(session);
   captions.lblPerMessage = "(Stepped/Tiered Rates Only)";
   captions.frmPeriodNumber = captions.lblTierPerNum = "Number Of Periods";
   captions.lblDays = TermLabel(session);
   captions.lblReqIntWdrwl = session.ReqWdrwlMonths ? "Months Between Required Interest Withdrawals"
                                                    : "Days Between Required Interest Withdrawals";
-  captions.lblHighLowEnd = TierEnd(session);
+  captions.lblHighLowEnd = BoundCaption(session);
   NamePeriods(session, captions);
   return captions;
 }

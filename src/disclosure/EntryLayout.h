@@ -11,6 +11,7 @@ struct SessionRecord;
 /// The captions of the entry window for the account that was set up.
 struct EntryCaptions {
   std::string lblAcctType;
+  std::string lblMethod;
   std::string lblAcctInfo;
   std::string lblPerMessage;
   std::string frmPeriodNumber;

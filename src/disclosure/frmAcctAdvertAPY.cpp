@@ -2,12 +2,12 @@
 
 #include <QtWidgets>
 
+#include "disclosure/EntrySequence.h"
 #include "disclosure/frmAcctRegularStepped.h"
+#include "disclosure/frmAcctTieredAB.h"
 #include "disclosure/frmDisplayResultsweb.h"
 #include "formulas/PeriodArrays.h"
-#include "platform/MessageBox.h"
 #include "shell/AccountHeader.h"
-#include "shell/ProgramTitle.h"
 #include "shell/SessionRecord.h"
 #include "shell/SessionStart.h"
 #include "shell/WindowRegistry.h"
@@ -238,6 +238,7 @@ void frmAcctAdvertAPY::cmdNext_Click() {
     Windows().Discard<frmAcctRegularStepped>();
     SizePeriodArrays(Session());
     Session().EntryDataKept = false;
+    Session().TierPerNum = 0;
     Session().PrevAcctTypeCode = Session().AcctTypeCode;
   }
   if (const auto refusal = CheckMonthsByMonths(Session())) return Tell(*refusal);
@@ -247,13 +248,14 @@ void frmAcctAdvertAPY::cmdNext_Click() {
 }
 
 void frmAcctAdvertAPY::ShowNextWindow() {
-  if (!Session().AcctRegular) {
-    ShowMessage(this, "Stepped and tiered accounts are not part of this version yet.",
-                kProgramTitle, MessageIcon::None);
+  Session().PeriodNumber = 0;
+  if (IsTiered(Session())) {
+    if (Session().AcctTierA) Windows().Discard<frmAcctRegularStepped>();
+    Windows().Show<frmAcctTieredAB>();
+    hide();
     return;
   }
-  auto& entry = Windows().Get<frmAcctRegularStepped>();
-  entry.cmdSetProperties_Click();
+  Windows().Get<frmAcctRegularStepped>().cmdSetProperties_Click();
   Restore_Period_Data();
   Windows().Show<frmAcctRegularStepped>();
   Windows().CloseWindowForNavigation(*this);
@@ -268,6 +270,7 @@ void frmAcctAdvertAPY::cmdNewAcct_Click() {
   ui_->txtDepositorName->clear();
   AccountHeader_LostFocus();
   Windows().Discard<frmAcctRegularStepped>();
+  Windows().Discard<frmAcctTieredAB>();
   ResetForNewAccount(Session());
   ui_->optICNone->setChecked(true);
   ui_->optDY365->setChecked(true);
@@ -278,8 +281,9 @@ void frmAcctAdvertAPY::cmdNewAcct_Click() {
 void frmAcctAdvertAPY::cmdExit_Click() {
   Windows().Show<frmMain>();
   CaptureUserInfo(Session(), HeaderMode::ClearAll);
-  Session().EntryDataKept = false;
+  ForgetEntries(Session());
   Windows().Discard<frmAcctRegularStepped>();
+  Windows().Discard<frmAcctTieredAB>();
   Windows().CloseWindowForNavigation(*this);
 }
 

@@ -2,12 +2,15 @@
 
 #include <QtWidgets>
 
+#include "disclosure/AccountSetup.h"
 #include "disclosure/DisclosureCalculation.h"
 #include "disclosure/EntryChecks.h"
 #include "disclosure/EntryLayout.h"
+#include "disclosure/EntrySequence.h"
 #include "disclosure/EntryTerm.h"
 #include "disclosure/PeriodStore.h"
 #include "disclosure/frmAcctAdvertAPY.h"
+#include "disclosure/frmAcctTieredAB.h"
 #include "disclosure/frmDisplayResultsweb.h"
 #include "formulas/PeriodArrays.h"
 #include "platform/Clock.h"
@@ -61,6 +64,7 @@ void frmAcctRegularStepped::BindFields() {
     BindNumeric(field, {});
   }
   BindNumeric(ui_->txtTerm, {.enterMovesOn = true});
+  BindNumeric(ui_->txtTierPerNum, {.digitsOnly = true});
   RewriteOnLeaving(ui_->txtBal);
   OnLostFocus(ui_->txtBal, [this](const QString&) { txtBal_LostFocus(); });
   OnChange(ui_->txtTerm, [this] { txtTerm_Change(); });
@@ -81,7 +85,8 @@ void frmAcctRegularStepped::BindButtons() {
     OnLostFocus(control, [this](const QString& next) { TermDates_LostFocus(next); });
   }
   OnClick(ui_->cmdSetProperties, [this] { cmdSetProperties_Click(); });
-  OnClick(ui_->cmdCalculateResult, [this] { cmdCalculateResult_Click(); });
+  OnClick(ui_->cmdCalculateResult, [this] { Attempt(); });
+  OnClick(ui_->cmdNext, [this] { Attempt(); });
   OnClick(ui_->cmdBack, [this] { cmdBack_Click(); });
   OnClick(ui_->cmdAcctInfo, [this] { cmdAcctInfo_Click(); });
   OnClick(ui_->cmdExit, [this] { cmdExit_Click(); });
@@ -117,27 +122,39 @@ DisclosureEntry frmAcctRegularStepped::ReadFields() const {
 void frmAcctRegularStepped::WriteFields(const DisclosureEntry& entry) {
   for (const EntryFieldName& known : kEntryFields) {
     QLineEdit* field = Field(known.name);
-    const std::string& text = (entry.*known.field).text;
-    if (FieldText(field) != text) SetFieldText(field, text);
+    const EntryField& wanted = entry.*known.field;
+    if (FieldText(field) != wanted.text) SetFieldText(field, wanted.text);
+    field->setEnabled(wanted.enabled);
   }
   EnableTermDates();
 }
 
 void frmAcctRegularStepped::cmdSetProperties_Click() {
-  ShowCaptions();
   Session().ComputedInterest = 0;
   Session().TierInterestTotal = 0;
-  EmptyTermDates();
+  NumberCurrentEntry(Session());
+  ShowCaptions();
   ShowGroups();
-  const std::string stored = Session().PerDailyRateFactor.At(1);
-  const std::string kept = stored.empty() ? FieldText(ui_->txtDailyRateFactor) : stored;
-  SetFieldText(ui_->txtDailyRateFactor, FactorFor(Session(), kept));
+  ShowEntry();
+}
+
+void frmAcctRegularStepped::ShowEntry() {
+  WriteFields(PresentEntry(Session(), ReadFields()));
+  const bool calculates = !IsTiered(Session()) && IsLastEntry(Session());
+  ui_->cmdCalculateResult->setVisible(calculates);
+  ui_->cmdNext->setVisible(!calculates);
+}
+
+void frmAcctRegularStepped::Load_Back_Data(int period) {
+  Session().PeriodCount = static_cast<std::int16_t>(period - 1);
+  cmdSetProperties_Click();
 }
 
 void frmAcctRegularStepped::ShowCaptions() {
   const EntryCaptions captions = CaptionsFor(Session());
   const std::pair<QLabel*, const std::string&> labels[] = {
       {ui_->lblAcctType, captions.lblAcctType},
+      {ui_->lblMethod, captions.lblMethod},
       {ui_->lblAcctInfo, captions.lblAcctInfo},
       {ui_->lblPerMessage, captions.lblPerMessage},
       {ui_->lblTierPerNum, captions.lblTierPerNum},
@@ -152,37 +169,17 @@ void frmAcctRegularStepped::ShowCaptions() {
 
 void frmAcctRegularStepped::ShowGroups() {
   const EntryGroups groups = GroupsFor(Session());
-  const std::pair<QWidget*, bool> frames[] = {
-      {ui_->frmPeriodNumber, groups.periodNumber},
-      {ui_->frmDateRange, groups.dateRange},
-      {ui_->frmTermDates, groups.termDates},
-      {ui_->frmIntWithDrawal, groups.withdrawal},
-  };
-  for (const auto& [frame, applies] : frames) {
-    frame->setVisible(applies);
-    frame->setEnabled(applies);
-    if (applies) continue;
-    for (auto* field : frame->findChildren<QLineEdit*>()) field->clear();
-  }
-  ui_->txtDailyRateFactor->setEnabled(!groups.factorFixed);
-  ui_->lblMethod->setVisible(false);
+  ui_->frmPeriodNumber->setVisible(groups.periodNumber);
+  ui_->frmDateRange->setVisible(groups.dateRange);
+  ui_->frmTermDates->setVisible(groups.termDates);
+  ui_->frmIntWithDrawal->setVisible(groups.withdrawal);
+  ui_->lblMethod->setVisible(IsTiered(Session()));
   ui_->lblPeriodNumber->setVisible(groups.periodNumber);
-  ui_->lblHighLowEnd->setVisible(groups.periodNumber && Session().AcctTierB);
-  ui_->cmdNext->setVisible(false);
-  EnableTermDates();
-}
-
-void frmAcctRegularStepped::Load_Back_Data(int period) {
-  DisclosureEntry stored = StoredEntry(Session(), period);
-  stored.txtTierPerNum.text = FieldText(ui_->txtTierPerNum);
-  stored.txtDailyRateFactor.text = FactorFor(Session(), stored.txtDailyRateFactor.text);
-  WriteFields(stored);
-  // What the account no longer has a field for must not come back with the rest.
-  ShowGroups();
+  ui_->lblHighLowEnd->setVisible(Session().AcctTierB);
 }
 
 void frmAcctRegularStepped::EnableTermDates() {
-  const bool enabled = HasCalendar(Session()) && AsksForCalendar(FieldText(ui_->txtTerm));
+  const bool enabled = TermDatesEnabled(Session(), FieldText(ui_->txtTerm));
   for (QWidget* control :
        {static_cast<QWidget*>(ui_->tStartDate), static_cast<QWidget*>(ui_->tEndDate),
         static_cast<QWidget*>(imgCalendar_[0]), static_cast<QWidget*>(imgCalendar_[1])}) {
@@ -245,12 +242,19 @@ void frmAcctRegularStepped::ImgCalendar_Click(int index) {
   WriteCountedTerm();
 }
 
-void frmAcctRegularStepped::cmdCalculateResult_Click() {
+void frmAcctRegularStepped::Attempt() {
   DisclosureEntry entry = ReadFields();
   if (IsRateMissing(entry)) return InternalError();
-  const auto refusal = AttemptCalculation(Session(), entry);
+  const AttemptOutcome outcome = AttemptCalculation(Session(), entry);
   WriteFields(entry);
-  if (refusal) return Tell(*refusal);
+  if (outcome.refusal) return Tell(*outcome.refusal);
+  Session().EntryNavState = 1;
+  if (outcome.showsResults) return ShowResults();
+  cmdSetProperties_Click();
+  Form_Activate();
+}
+
+void frmAcctRegularStepped::ShowResults() {
   Windows().Discard<frmDisplayResultsweb>();
   Windows().Show<frmDisplayResultsweb>();
   hide();
@@ -263,27 +267,43 @@ void frmAcctRegularStepped::InternalError() {
 }
 
 void frmAcctRegularStepped::cmdBack_Click() {
-  StoreEntry(Session(), 1, ReadFields());
+  const DisclosureEntry entry = ReadFields();
+  const int current = CurrentEntry(Session());
+  if (IsWorthKeeping(Session(), entry)) StoreEntry(Session(), current, entry);
+  Session().EntryNavState = 2;
+  if (current == 1) return LeaveBackward();
+  Load_Back_Data(current - 1);
+  Form_Activate();
+}
+
+void frmAcctRegularStepped::LeaveBackward() {
   Session().EntryDataKept = true;
-  auto& setup = Windows().Get<frmAcctAdvertAPY>();
-  setup.ShowAccountHeader();
-  Windows().Show<frmAcctAdvertAPY>();
+  if (IsTiered(Session())) {
+    Windows().Show<frmAcctTieredAB>();
+  } else {
+    Windows().Get<frmAcctAdvertAPY>().ShowAccountHeader();
+    Windows().Show<frmAcctAdvertAPY>();
+  }
   hide();
+}
+
+void frmAcctRegularStepped::ForgetAccount() {
+  ForgetEntries(Session());
+  Windows().Discard<frmAcctTieredAB>();
 }
 
 void frmAcctRegularStepped::cmdAcctInfo_Click() {
   CaptureUserInfo(Session(), HeaderMode::KeepInstitution);
+  ForgetAccount();
   SizePeriodArrays(Session());
-  Session().EntryDataKept = false;
-  auto& setup = Windows().Get<frmAcctAdvertAPY>();
-  setup.ShowAccountHeader();
+  Windows().Get<frmAcctAdvertAPY>().ShowAccountHeader();
   Windows().Show<frmAcctAdvertAPY>();
   Windows().CloseWindowForNavigation(*this);
 }
 
 void frmAcctRegularStepped::cmdExit_Click() {
   CaptureUserInfo(Session(), HeaderMode::ClearAll);
-  Session().EntryDataKept = false;
+  ForgetAccount();
   Windows().Show<frmMain>();
   Windows().CloseWindowForNavigation(*this);
 }

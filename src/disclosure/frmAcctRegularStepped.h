@@ -25,9 +25,10 @@ class frmAcctRegularStepped : public Form {
   void Form_Load() override;
   void Form_Activate() override;
 
-  /// Lays the window out for the account in the session record.
+  /// Lays the window out for the account in the session record and for the period or tier that
+  /// comes next, with what is stored for it.
   void cmdSetProperties_Click();
-  /// Puts the stored entry of a period into the fields.
+  /// Makes a period or tier the next one to be entered and shows it.
   void Load_Back_Data(int period);
   /// What the fields hold.
   DisclosureEntry ReadFields() const;
@@ -41,15 +42,20 @@ class frmAcctRegularStepped : public Form {
   void txtTierPerNum_LostFocus(const QString& next);
   void TermDates_LostFocus(const QString& next);
   void ImgCalendar_Click(int index);
-  void cmdCalculateResult_Click();
+  /// Next and Calculate are one attempt; which of them shows says what follows it.
+  void Attempt();
+  void ShowResults();
   void cmdBack_Click();
   void cmdAcctInfo_Click();
   void cmdExit_Click();
 
+  void LeaveBackward();
+  void ForgetAccount();
   void ShowCaptions();
   void ShowGroups();
   void EnableTermDates();
   void EmptyTermDates();
+  void ShowEntry();
   void WriteCountedTerm();
   void WriteFields(const DisclosureEntry& entry);
   QLineEdit* Field(const char* name) const;

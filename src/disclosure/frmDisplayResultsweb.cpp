@@ -2,8 +2,11 @@
 
 #include <QtWidgets>
 
+#include "disclosure/AccountSetup.h"
+#include "disclosure/EntrySequence.h"
 #include "disclosure/frmAcctAdvertAPY.h"
 #include "disclosure/frmAcctRegularStepped.h"
+#include "disclosure/frmAcctTieredAB.h"
 #include "formulas/PeriodArrays.h"
 #include "platform/WebView.h"
 #include "reports/DisclosureReport.h"
@@ -60,25 +63,21 @@ void frmDisplayResultsweb::BuildReport() {
 }
 
 void frmDisplayResultsweb::cmdBack_Click() {
-  auto& entry = Windows().Get<frmAcctRegularStepped>();
   Session().BackFromResults = false;
   Session().EntryNavState = 2;
-  entry.cmdSetProperties_Click();
-  entry.Load_Back_Data(Session().PeriodCount);
+  Windows().Get<frmAcctRegularStepped>().Load_Back_Data(EntryBehindResults(Session()));
   Windows().Show<frmAcctRegularStepped>();
-  Session().PeriodCount = static_cast<std::int16_t>(Session().PeriodCount - 1);
   Windows().CloseWindowForNavigation(*this);
 }
 
-void frmDisplayResultsweb::ForgetEntries() {
-  Session().EntryDataKept = false;
-  Session().TierFormLoaded = false;
-  Session().TierPeriodCounter = 0;
+void frmDisplayResultsweb::ForgetAccount() {
+  ForgetEntries(Session());
+  Windows().Discard<frmAcctTieredAB>();
 }
 
 void frmDisplayResultsweb::cmdAcct_Click() {
   CaptureUserInfo(Session(), HeaderMode::KeepInstitution);
-  ForgetEntries();
+  ForgetAccount();
   Windows().Get<frmAcctAdvertAPY>().ShowAccountHeader();
   Windows().Show<frmAcctAdvertAPY>();
   Windows().Discard<frmAcctRegularStepped>();
@@ -90,7 +89,7 @@ void frmDisplayResultsweb::cmdAcct_Click() {
 }
 
 void frmDisplayResultsweb::cmdExit_Click() {
-  ForgetEntries();
+  ForgetAccount();
   CaptureUserInfo(Session(), HeaderMode::ClearAll);
   Windows().Discard<frmAcctRegularStepped>();
   Windows().Discard<frmAcctAdvertAPY>();
@@ -99,7 +98,7 @@ void frmDisplayResultsweb::cmdExit_Click() {
 }
 
 void frmDisplayResultsweb::mnuMain_Click() {
-  ForgetEntries();
+  ForgetAccount();
   Windows().Get<frmAcctAdvertAPY>().ShowAccountHeader();
   if (auto* entry = Windows().Find<frmAcctRegularStepped>()) entry->hide();
   Windows().Show<frmMain>();

@@ -27,7 +27,7 @@ class frmDisplayResultsweb : public Form {
   void cmdExit_Click();
   void mnuMain_Click();
   void BuildReport();
-  void ForgetEntries();
+  void ForgetAccount();
 
   std::unique_ptr<Ui::frmDisplayResultsweb> ui_;
   WebView* webView_;

@@ -17,4 +17,13 @@ void KeepInsideWorkArea(QWidget& window) {
   window.resize(window.size().boundedTo(area.size()));
 }
 
+void PlaceOver(QWidget& window, const QWidget& other) {
+  const QRect area = WorkArea(other);
+  QRect place(QPoint(), window.size());
+  place.moveCenter(other.frameGeometry().center());
+  if (place.right() > area.right()) place.moveRight(area.right());
+  if (place.bottom() > area.bottom()) place.moveBottom(area.bottom());
+  window.move(qMax(place.left(), area.left()), qMax(place.top(), area.top()));
+}
+
 }  // namespace corvane

@@ -10,7 +10,11 @@ namespace corvane {
 /// does not tell.
 QRect WorkArea(const QWidget& window);
 
-/// Before a window shows: makes it no larger than the work area.
+/// Makes a window no larger than the work area.
 void KeepInsideWorkArea(QWidget& window);
+
+/// Puts a window that is about to show where another one stands, centre over centre, as far as the
+/// work area lets it.
+void PlaceOver(QWidget& window, const QWidget& other);
 
 }  // namespace corvane

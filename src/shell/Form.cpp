@@ -13,7 +13,20 @@
 
 namespace corvane {
 
+namespace {
+
+/// Disabled fields show figures that have to be read: their text is fainter, not all but gone.
+QPalette ReadableWhenDisabled(QPalette palette) {
+  QColor text = palette.color(QPalette::Active, QPalette::Text);
+  text.setAlphaF(0.65F);
+  palette.setColor(QPalette::Disabled, QPalette::Text, text);
+  return palette;
+}
+
+}  // namespace
+
 Form::Form(WindowRegistry& windows, Role role) : windows_(windows), role_(role) {
+  setPalette(ReadableWhenDisabled(palette()));
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
     const bool isControl = now && now->window() == this && !qobject_cast<QMenuBar*>(now);
     if (isControl) MoveFocus(now);
@@ -105,13 +118,14 @@ void Form::NumericChange(QLineEdit* field, const NumericRule& rule) {
   if (limited.message) Tell(*limited.message);
 }
 
-bool Form::RefusesKey(QLineEdit* field, int key, const QString& text, bool enterMovesOn) {
+bool Form::RefusesKey(QLineEdit* field, int key, const QString& text, const NumericRule& rule) {
   if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-    if (enterMovesOn) focusNextPrevChild(true);
+    if (rule.enterMovesOn) focusNextPrevChild(true);
     return true;
   }
   const bool typesCharacter = !text.isEmpty() && text.front().isPrint();
   if (!typesCharacter) return false;
+  if (rule.digitsOnly) return text < "0" || text > "9";
   return !FilterNumericKey(text.toUcs4().front(),
                            {field->text().toStdU16String(), field->selectionStart(),
                             static_cast<int>(field->selectedText().size())});
@@ -125,8 +139,8 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
   const auto* press = static_cast<QKeyEvent*>(event);
   const bool isCommand =
       press->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-  return !isCommand && RefusesKey(qobject_cast<QLineEdit*>(watched), press->key(), press->text(),
-                                  rule->second.enterMovesOn);
+  return !isCommand &&
+         RefusesKey(qobject_cast<QLineEdit*>(watched), press->key(), press->text(), rule->second);
 }
 
 void Form::HoldFocus(QWidget* field) {

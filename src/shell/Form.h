@@ -26,6 +26,7 @@ struct NumericRule {
   int decimals = -1;  ///< most decimals allowed, -1 for no limit
   const char* kind = "";
   bool enterMovesOn = false;
+  bool digitsOnly = false;
 };
 
 /// The window that all others are built on. It gives a form its life (load once, activation by
@@ -47,6 +48,8 @@ class Form : public QMainWindow {
   virtual void Form_Load() {}
   /// Runs when the program's own navigation brings the form to the front.
   virtual void Form_Activate() {}
+  /// True for a form that centres itself; any other shows where the window before it stood.
+  virtual bool PlacesItself() const { return false; }
   /// Asked before the frame closes the form; false keeps it open.
   virtual bool Form_QueryUnload() { return true; }
 
@@ -104,7 +107,7 @@ class Form : public QMainWindow {
   bool TakeFocus(QAbstractButton* button);
   bool CommitFor(QAction* item);
   void NumericChange(QLineEdit* field, const NumericRule& rule);
-  bool RefusesKey(QLineEdit* field, int key, const QString& text, bool enterMovesOn);
+  bool RefusesKey(QLineEdit* field, int key, const QString& text, const NumericRule& rule);
 
   WindowRegistry& windows_;
   Role role_;

@@ -17,6 +17,8 @@ WindowRegistry::~WindowRegistry() {
     open_.pop_back();
     delete form;
   }
+  // Forms that closed themselves must not outlive what their browsers need.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 Form* WindowRegistry::FindForm(std::type_index type) const {
@@ -31,8 +33,15 @@ void WindowRegistry::Add(std::type_index type, Form* form) {
   form->Form_Load();
 }
 
+void WindowRegistry::PlaceBeforeShowing(Form& form) {
+  KeepInsideWorkArea(form);
+  const QWidget* before = QApplication::activeWindow();
+  const bool follows = before && form.WindowRole() == Form::Role::Main && !form.PlacesItself();
+  if (follows) PlaceOver(form, *before);
+}
+
 void WindowRegistry::BringToFront(Form& form) {
-  if (!form.isVisible()) KeepInsideWorkArea(form);
+  if (!form.isVisible()) PlaceBeforeShowing(form);
   form.show();
   form.raise();
   form.activateWindow();

@@ -85,6 +85,7 @@ class WindowRegistry {
 
   Form* FindForm(std::type_index type) const;
   void Add(std::type_index type, Form* form);
+  void PlaceBeforeShowing(Form& form);
   void BringToFront(Form& form);
   void Unload(Form& form);
 

@@ -21,6 +21,7 @@ class frmMain : public Form {
   ~frmMain() override;
 
   void Form_Load() override;
+  bool PlacesItself() const override { return true; }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

@@ -2,46 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "CaseTable.h"
+#include "shell/SessionRecord.h"
+#include "support/NumberText.h"
 
 namespace corvane {
 namespace {
-
-/// Computes one period of a row as the program does and adds it to the session's sums.
-void AddPeriod(SessionRecord& session, const CaseRow& row, std::size_t k) {
-  session.WdrwlPeriods = row.List("w")[k];
-  session.BeginMonth = static_cast<std::int16_t>(row.List("months")[k]);
-  session.BeginYear = static_cast<std::int16_t>(row.List("years")[k]);
-  SteppedPeriod period;
-  period.number = static_cast<std::int16_t>(k + 1);
-  period.rate = row.List("rates")[k];
-  period.term = row.List("terms")[k];
-  period.balance =
-      session.Principal + (PeriodsBuildOnInterest(session) ? session.ComputedInterest : 0);
-  period.dailyRateFactor = session.DailyRateFactor;
-  SteppedPeriodResult result;
-  const auto refusal = CalcSteppedPeriod(session, period, result);
-  ASSERT_FALSE(refusal.has_value()) << refusal->text;
-  EXPECT_EQ(FormatFixed2(result.interest), SplitAt(row.Text("interests"), '/')[k]) << k;
-  session.ComputedInterest += result.interest;
-  session.TermUnits += result.termUnits;
-}
-
-TEST(SteppedApy, AgreesWithTheReference) {
-  for (const CaseRow& row : ReadCases("stepped.csv")) {
-    SCOPED_TRACE(row.line);
-    SessionRecord session = AccountOf(row);
-    session.AcctStepped = true;
-    session.BtwnReqIntWdrwl = row.Number("m");
-    session.Principal = row.Number("balance");
-    for (std::size_t k = 0; k < row.List("rates").size(); ++k) AddPeriod(session, row, k);
-    ASSERT_FALSE(CalcSteppedApy(session, row.Number("apy"), session.Principal));
-    EXPECT_EQ(FormatFixed2(session.ComputedInterest), row.Text("interest"));
-    EXPECT_NEAR(session.ComputedApy, row.Number("apy"), 1e-9);
-    EXPECT_EQ(session.TermUnits, row.Number("units"));
-    EXPECT_EQ(session.ApyVerdict, "OK");
-  }
-}
 
 TEST(SteppedApy, GivesTheRegulationsOwnFigures) {
   // Regulation DD, Appendix A, Part I.B: 5 % for 91 days, then 5.5 %, daily compounding.

@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "CaseTable.h"
+#include "shell/SessionRecord.h"
+#include "support/NumberText.h"
 
 namespace corvane {
 namespace {
@@ -26,34 +27,6 @@ std::optional<Refusal> CalculateTier(SessionRecord& session, TierEnd end, double
   double interest = session.ComputedInterest;
   double term = session.EnteredTerm;
   return CalcApyFromInterest(session, interest, session.Principal, term, disclosedApy);
-}
-
-TEST(TierSums, AgreeWithTheReference) {
-  for (const CaseRow& row : ReadCases("tiers.csv")) {
-    SCOPED_TRACE(row.line);
-    SessionRecord session = AccountOf(row);
-    session.AcctTierB = true;
-    session.WdrwlPeriods = row.Number("w");
-    session.BtwnReqIntWdrwl = row.Number("m");
-    session.BeginMonth = row.Whole("month");
-    session.BeginYear = row.Whole("year");
-    session.EnteredTerm = row.Number("term");
-    session.EnteredBalance = row.Number("typed");
-    session.PeriodNumber = row.Whole("tier");
-    session.Principal = session.ComputedInterest = session.TierInterestTotal = 77;
-    session.RateScheduleText = "9.9";
-    StoreTiers(session, row.List("rates"), row.List("bounds"));
-    const TierEnd end = row.Text("end") == "low" ? TierEnd::Low : TierEnd::High;
-    const auto refusal = CalculateTier(session, end, row.Number("apy"));
-    ASSERT_FALSE(refusal.has_value()) << refusal->text;
-    EXPECT_EQ(FormatFixed2(session.ComputedInterest), row.Text("interest"));
-    EXPECT_NEAR(session.SummaryInterest, row.Number("interest"), 1e-9);
-    EXPECT_EQ(session.TierInterestTotal, session.ComputedInterest);
-    EXPECT_NEAR(session.Principal, row.Number("principal"), 1e-6);
-    EXPECT_NEAR(session.ComputedApy, row.Number("apy"), 1e-9);
-    EXPECT_EQ(session.RateScheduleText, row.Text("schedule"));
-    EXPECT_EQ(session.ApyVerdict, "OK");
-  }
 }
 
 SessionRecord DailyAccount() {

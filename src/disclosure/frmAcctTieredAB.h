@@ -1,0 +1,48 @@
+#pragma once
+
+#include <memory>
+
+#include "disclosure/TierTable.h"
+#include "shell/Form.h"
+
+namespace Ui {
+class frmAcctTieredAB;
+}
+
+namespace corvane {
+
+/// The tier table: number of tiers, the rate of each and the balance bounds between them. It
+/// serves disclosures and periodic statements.
+class frmAcctTieredAB : public Form {
+  Q_OBJECT
+
+ public:
+  explicit frmAcctTieredAB(WindowRegistry& windows);
+  ~frmAcctTieredAB() override;
+
+  void Form_Load() override;
+  void Form_Activate() override;
+
+  /// Shows the rows of the chosen number of tiers.
+  void Enable_Rates();
+
+ private:
+  void BindRow(int tier);
+  void cboTotalTiers_Click();
+  void txtInt_Emptied(int tier);
+  void txt_bne_LostFocus(int tier);
+  void cmdCalculate_Click();
+  void cmdBack_Click();
+  void cmdExit_Click();
+
+  QLineEdit* Box(const char* array, int tier) const;
+  void ShowMethod();
+  void EmptyTable();
+  TierTable ReadBoxes() const;
+  void WriteBoxes(const TierTable& table);
+  void OpenEntry();
+
+  std::unique_ptr<Ui::frmAcctTieredAB> ui_;
+};
+
+}  // namespace corvane
