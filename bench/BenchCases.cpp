@@ -145,7 +145,11 @@ Act StatementPeriod(const StatementAccount& account) {
 }
 
 StatementAccount Earning(RateKind kind, BalanceMethod method) {
-  StatementAccount account{.kind = kind, .method = method, .compoundingDays = 1, .rate = 5.25};
+  StatementAccount account;
+  account.kind = kind;
+  account.method = method;
+  account.compoundingDays = 1;
+  account.rate = 5.25;
   if (IsTiered(kind)) account.tiers = {{0, 5.25}, {2500, 5.5}, {15000, 5.75}};
   return account;
 }

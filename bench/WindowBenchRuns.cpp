@@ -10,6 +10,7 @@
 #include "disclosure/frmAcctAdvertAPY.h"
 #include "disclosure/frmAcctRegularStepped.h"
 #include "disclosure/frmDisplayResultsweb.h"
+#include "platform/Pictures.h"
 #include "platform/ProgramFolder.h"
 #include "platform/WebView.h"
 #include "reports/DisclosureReport.h"
@@ -57,6 +58,7 @@ class FirstPaint : public QObject {
 int ShowFirstWindow(int argc, char** argv) {
   PrepareWebView();
   QApplication application(argc, argv);
+  QApplication::setWindowIcon(ProgramIcon());
   FirstPaint watch;
   application.installEventFilter(&watch);
   SessionRecord session;

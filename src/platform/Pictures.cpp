@@ -20,6 +20,11 @@ QIcon ProgramIcon() {
   return Picture(":/icons/corvane.png");
 }
 
+QPixmap ProgramPicture() {
+  LoadPictures();
+  return QPixmap(":/icons/program.png");
+}
+
 QIcon CalendarIcon() {
   return Picture(":/icons/calendar.png");
 }

@@ -21,7 +21,7 @@ frmSplash::frmSplash(WindowRegistry& windows)
 frmSplash::~frmSplash() = default;
 
 void frmSplash::Form_Load() {
-  ui_->Image1->setPixmap(ProgramIcon().pixmap(256));
+  ui_->Image1->setPixmap(ProgramPicture());
   ui_->cmdOK->setFocus();
 }
 
