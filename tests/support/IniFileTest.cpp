@@ -23,7 +23,10 @@ class IniFile : public testing::Test {
     return WriteIniValue("Options", "Startup Intro", value, file);
   }
 
-  const std::filesystem::path file = std::filesystem::path(testing::TempDir()) / "corvane_test.ini";
+  // Tests may run side by side.
+  const std::filesystem::path file =
+      std::filesystem::path(testing::TempDir()) /
+      (std::string("corvane_") + testing::UnitTest::GetInstance()->current_test_info()->name());
 };
 
 TEST_F(IniFile, WhatIsRead) {
