@@ -23,10 +23,7 @@ class IniFile : public testing::Test {
     return WriteIniValue("Options", "Startup Intro", value, file);
   }
 
-  // Tests may run side by side.
-  const std::filesystem::path file =
-      std::filesystem::path(testing::TempDir()) /
-      (std::string("corvane_") + testing::UnitTest::GetInstance()->current_test_info()->name());
+  const std::filesystem::path file = std::filesystem::path(testing::TempDir()) / "corvane_test.ini";
 };
 
 TEST_F(IniFile, WhatIsRead) {
