@@ -1,6 +1,7 @@
 #include "platform/WebView.h"
 
 #include <QEventLoop>
+#include <QLabel>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QVBoxLayout>
@@ -91,6 +92,12 @@ void WebView::ShowFile(const QString& path) {
   static_cast<ReportPage*>(page_.get())->Open(QUrl::fromLocalFile(path));
 }
 
+void WebView::ShowNotice(const QString& text) {
+  auto* notice = new QLabel(text, this);
+  notice->setAlignment(Qt::AlignCenter);
+  layout()->addWidget(notice);
+}
+
 void WebView::Print() {
   if (!browser_) return;
   QPrinter printer(QPrinter::HighResolution);
@@ -98,8 +105,14 @@ void WebView::Print() {
   if (dialog.exec() != QDialog::Accepted) return;
   // The printer has to live until the page is on it.
   QEventLoop printing;
-  connect(browser_.get(), &QWebEngineView::printFinished, &printing, &QEventLoop::quit);
-  browser_->print(&printer);
+  if (printer.outputFormat() == QPrinter::PdfFormat) {
+    // A file gets text that can be searched, where the printer would get a picture of the page.
+    connect(page_.get(), &QWebEnginePage::pdfPrintingFinished, &printing, &QEventLoop::quit);
+    page_->printToPdf(printer.outputFileName(), printer.pageLayout());
+  } else {
+    connect(browser_.get(), &QWebEngineView::printFinished, &printing, &QEventLoop::quit);
+    browser_->print(&printer);
+  }
   printing.exec();
 }
 

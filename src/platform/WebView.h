@@ -22,6 +22,9 @@ class WebView : public QWidget {
 
   void ShowFile(const QString& path);
 
+  /// Shows a plain sentence in place of a page.
+  void ShowNotice(const QString& text);
+
   /// Prints the page after the system's print dialog; does nothing when no page is shown.
   void Print();
 

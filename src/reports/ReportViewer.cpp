@@ -28,7 +28,10 @@ void ReportViewer::BuildAndShow(const SessionRecord& session, const ReportConten
   const ReportBuild build =
       BuildReportFile(FileIn(Utf8Of(ProgramFolder()), names_.templateName), output, content);
   for (const std::string& tag : build.unknownTags) window_.Tell(UnknownTagMessage(tag));
-  if (build.error) return window_.Tell(MessageFor(*build.error));
+  if (build.error) {
+    view_.ShowNotice("No report was built.");
+    return window_.Tell(MessageFor(*build.error));
+  }
   built_ = true;
   text_ = build.text;
   view_.ShowFile(Text(output));
