@@ -147,4 +147,8 @@ void DropEntriesOfChangedTable(SessionRecord& session) {
   session.EntryDataKept = false;
 }
 
+void EndDetailOfChangedTable(SessionRecord& session) {
+  if (session.TierRecalc) session.DetailData = false;
+}
+
 }  // namespace corvane

@@ -48,6 +48,9 @@ TierTable StoredTierTable(const SessionRecord& session);
 /// Entries made for an earlier table are void once a stored value has changed.
 void DropEntriesOfChangedTable(SessionRecord& session);
 
+/// The interest by day of an earlier computation is not that of a changed table.
+void EndDetailOfChangedTable(SessionRecord& session);
+
 /// The name of an element of a field array: "txt_bne(3)".
 std::string ElementName(const char* array, int index);
 

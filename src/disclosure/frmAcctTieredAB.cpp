@@ -10,6 +10,9 @@
 #include "shell/SessionRecord.h"
 #include "shell/WindowRegistry.h"
 #include "shell/frmMain.h"
+#include "statement/StatementWindows.h"
+#include "statement/frmCallStatement.h"
+#include "statement/frmStatementUseandSelect.h"
 #include "support/NumberText.h"
 #include "ui_frmAcctTieredAB.h"
 
@@ -155,7 +158,19 @@ void frmAcctTieredAB::cmdCalculate_Click() {
   WriteBoxes(table);
   Session().TotalTiers = static_cast<std::int16_t>(table.tiers);
   StoreTierTable(Session(), table);
-  OpenEntry();
+  if (Session().StatementPath) {
+    OpenStatement(table.tiers);
+  } else {
+    OpenEntry();
+  }
+}
+
+void frmAcctTieredAB::OpenStatement(int tiers) {
+  Session().TierNumber = static_cast<std::int16_t>(tiers);
+  EndDetailOfChangedTable(Session());
+  Windows().Get<frmStatementUseandSelect>().TakeCompoundingDays();
+  Windows().Show<frmCallStatement>();
+  hide();
 }
 
 void frmAcctTieredAB::OpenEntry() {
@@ -174,6 +189,7 @@ void frmAcctTieredAB::OpenEntry() {
 void frmAcctTieredAB::cmdBack_Click() {
   Session().NewStatementAcct = false;
   StoreTierTable(Session(), ReadBoxes());
+  if (Session().StatementPath) return BackToStatementSetup();
   DropEntriesOfChangedTable(Session());
   Windows().Discard<frmAcctRegularStepped>();
   Windows().Get<frmAcctAdvertAPY>().ShowAccountHeader();
@@ -181,8 +197,16 @@ void frmAcctTieredAB::cmdBack_Click() {
   Windows().CloseWindowForNavigation(*this);
 }
 
+void frmAcctTieredAB::BackToStatementSetup() {
+  EndDetailOfChangedTable(Session());
+  Windows().Get<frmStatementUseandSelect>().ShowAccountHeader();
+  Windows().Show<frmStatementUseandSelect>();
+  hide();
+}
+
 void frmAcctTieredAB::cmdExit_Click() {
   ForgetEntries(Session());
+  if (Session().StatementPath) return LeaveStatements(Windows());
   CaptureUserInfo(Session(), HeaderMode::ClearAll);
   Windows().Discard<frmAcctRegularStepped>();
   Windows().Discard<frmAcctAdvertAPY>();

@@ -41,6 +41,8 @@ class frmAcctTieredAB : public Form {
   TierTable ReadBoxes() const;
   void WriteBoxes(const TierTable& table);
   void OpenEntry();
+  void OpenStatement(int tiers);
+  void BackToStatementSetup();
 
   std::unique_ptr<Ui::frmAcctTieredAB> ui_;
 };

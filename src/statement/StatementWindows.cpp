@@ -1,8 +1,7 @@
 #include "statement/StatementWindows.h"
 
-#include "platform/MessageBox.h"
+#include "disclosure/frmAcctTieredAB.h"
 #include "shell/AccountHeader.h"
-#include "shell/ProgramTitle.h"
 #include "shell/SessionRecord.h"
 #include "shell/WindowRegistry.h"
 #include "shell/frmMain.h"
@@ -20,6 +19,7 @@ void DiscardAccountWindows(WindowRegistry& windows) {
   windows.Discard<frmInterestbyDay>();
   windows.Discard<frmDisplayResultsStatement>();
   windows.Discard<frmCallStatement>();
+  windows.Discard<frmAcctTieredAB>();
 }
 
 void NewStatementAccount(WindowRegistry& windows) {
@@ -42,12 +42,6 @@ void LeaveStatements(WindowRegistry& windows) {
   ClearDayTables(windows.Session());
   DiscardAccountWindows(windows);
   windows.Discard<frmStatementUseandSelect>();
-}
-
-bool ShowTierTable(Form& window) {
-  ShowMessage(&window, "Statements of tiered accounts are not part of this version yet.",
-              kProgramTitle, MessageIcon::None);
-  return false;
 }
 
 }  // namespace corvane

@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "disclosure/frmAcctTieredAB.h"
 #include "platform/Clock.h"
 #include "platform/Pictures.h"
 #include "shell/AccountHeader.h"
@@ -224,11 +225,11 @@ void frmCallStatement::cmdCalculate_Click() {
 
 void frmCallStatement::cmdBack_Click() {
   if (Session().AcctTierA || Session().AcctTierB) {
-    if (ShowTierTable(*this)) hide();
-    return;
+    Windows().Show<frmAcctTieredAB>();
+  } else {
+    Windows().Get<frmStatementUseandSelect>().ShowAccountHeader();
+    Windows().Show<frmStatementUseandSelect>();
   }
-  Windows().Get<frmStatementUseandSelect>().ShowAccountHeader();
-  Windows().Show<frmStatementUseandSelect>();
   hide();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "disclosure/frmAcctTieredAB.h"
 #include "shell/AccountHeader.h"
 #include "shell/SessionRecord.h"
 #include "shell/WindowRegistry.h"
@@ -143,7 +144,8 @@ void frmStatementUseandSelect::cmdNext_Click() {
   WriteFields(setup);
   if (outcome.refusal) return Tell(*outcome.refusal);
   if (setup.optTierA || setup.optTierB) {
-    if (ShowTierTable(*this)) hide();
+    Windows().Show<frmAcctTieredAB>();
+    hide();
     return;
   }
   TakeCompoundingDays();
