@@ -1,0 +1,105 @@
+#include "disclosure/frmAcctTieredAB.h"
+#include "statement/StatementWindows.h"
+
+namespace corvane {
+namespace {
+
+/// Statements of tiered accounts: 1 % up to $1,000 and 2 % above, nothing compounds.
+class TieredStatement : public StatementWindows {
+ protected:
+  void OpenTable(const char* method) {
+    Choose("optICNone");
+    Choose(method);
+    Click("cmdNext");
+    InFront<frmAcctTieredAB>();
+  }
+
+  void TypeTable() {
+    auto* list = Get<QComboBox>("cboTotalTiers");
+    list->setFocus();
+    QTest::keyClicks(list, "2");
+    Type("txtInt(1)", "1");
+    Type("txt_bne(1)", "1000");
+    Type("txtInt(2)", "2");
+  }
+
+  void OpenPeriod() {
+    Click("cmdCalculate");
+    InFront<frmCallStatement>();
+  }
+
+  void ComputeTenDaysOf2000() {
+    EnterTerms("1.5", "", "optDailyBal");
+    Type("txtLedgerdays", "10");
+    Days("cmdComputeLADB", [this] {
+      TypeDays(10, "2000");
+      Click("cmdContinue");
+    });
+  }
+};
+
+TEST_F(TieredStatement, EveryDayEarnsByItsTiers) {
+  struct Case {
+    const char* method;
+    const char*
+        interest;  // A: 2 % on all; B: 1 % on $1,000 and 2 % on the rest; 10 / 365 of a year
+    double apy;    // 100 x ((1 + interest / 2,000) ^ (365 / 10) - 1)
+  };
+  for (const Case& c : {Case{"optTierA", "1.10", 2.03}, Case{"optTierB", "0.82", 1.51}}) {
+    SCOPED_TRACE(c.method);
+    OpenTable(c.method);
+    EXPECT_EQ(windows.Get<frmAcctTieredAB>().windowTitle().toStdString(),
+              "Periodic Statements APY - Tiered Calculations");
+    TypeTable();
+    OpenPeriod();
+    EXPECT_FALSE(IsEnabled("txtIntRate"));
+    ComputeTenDaysOf2000();
+    EXPECT_EQ(Text("txtADBLedgerBalance"), "2000.00");
+    EXPECT_EQ(Text("txtIntAmt"), c.interest);
+    Calculate();
+    EXPECT_EQ(session.ComputedApy, c.apy);
+    EXPECT_TRUE(Holds(ReportText("Periodic_Statement_Report.html"), "variable"));
+    EXPECT_TRUE(IsEnabled("cmdDetail"));
+    Click("cmdAcct");
+    InFront<frmStatementUseandSelect>();
+    EXPECT_EQ(windows.Find<frmAcctTieredAB>(), nullptr);
+  }
+}
+
+TEST_F(TieredStatement, BackKeepsTheTableAndAChangedOneEndsTheDetail) {
+  OpenTable("optTierB");
+  TypeTable();
+  OpenPeriod();
+  ComputeTenDaysOf2000();
+  Click("cmdBack");
+  InFront<frmAcctTieredAB>();
+  Click("cmdBack");
+  InFront<frmStatementUseandSelect>();
+  Click("cmdNext");
+  InFront<frmAcctTieredAB>();
+  EXPECT_EQ(Text("txtInt(2)"), "2");
+  OpenPeriod();
+  EXPECT_EQ(Text("txtIntAmt"), "0.82");
+  EXPECT_TRUE(session.DetailData);
+  Click("cmdBack");
+  InFront<frmAcctTieredAB>();
+  Type("txtInt(2)", "2.5");
+  OpenPeriod();
+  EXPECT_FALSE(session.DetailData) << "the days were computed by another table";
+}
+
+TEST_F(TieredStatement, MainMenuOfTheTableLeavesNothingOfTheAccount) {
+  OpenTable("optTierA");
+  TypeTable();
+  Click("cmdExit");
+  InFront<frmMain>();
+  EXPECT_EQ(windows.Find<frmStatementUseandSelect>(), nullptr);
+  EXPECT_EQ(windows.Find<frmAcctTieredAB>(), nullptr);
+  Click("cmdStatement");
+  InFront<frmStatementUseandSelect>();
+  OpenTable("optTierA");
+  EXPECT_EQ(Get<QComboBox>("cboTotalTiers")->currentIndex(), -1);
+}
+
+}  // namespace
+}  // namespace corvane
