@@ -3,14 +3,15 @@
 #include <QtWidgets>
 
 #include "disclosure/frmAcctAdvertAPY.h"
-#include "platform/MessageBox.h"
 #include "platform/Pictures.h"
 #include "platform/ProgramFolder.h"
 #include "shell/DataFolder.h"
-#include "shell/ProgramTitle.h"
 #include "shell/SessionRecord.h"
 #include "shell/SessionStart.h"
 #include "shell/WindowRegistry.h"
+#include "statement/StatementReset.h"
+#include "statement/StatementWindows.h"
+#include "statement/frmStatementUseandSelect.h"
 #include "support/IniFile.h"
 #include "support/clsFormCenter.h"
 #include "ui_frmMain.h"
@@ -65,8 +66,14 @@ void frmMain::cmdAcctAdv_Click() {
 }
 
 void frmMain::cmdStatement_Click() {
-  ShowMessage(this, "Periodic statements are not part of this version yet.", kProgramTitle,
-              MessageIcon::None);
+  StartStatements(Session());
+  DiscardAccountWindows(Windows());
+  StartWorkflow(Session(), 1);
+  auto& setup = Windows().Get<frmStatementUseandSelect>();
+  setup.ShowAccountHeader();
+  setup.SelectStartOptions();
+  Windows().Show<frmStatementUseandSelect>();
+  hide();
 }
 
 void frmMain::cmdExit_Click() {

@@ -45,19 +45,19 @@ bool BasisUses(const SessionRecord& session, BalanceColumn column) {
   return session.BalanceBasisCode == 2 || column == BasisColumn(session);
 }
 
-EntryField& DaysField(StatementEntry& entry, BalanceColumn column) {
+StatementField& DaysField(StatementEntry& entry, BalanceColumn column) {
   return column == BalanceColumn::Ledger ? entry.txtLedgerdays : entry.txtColDays;
 }
 
-EntryField& AdbField(StatementEntry& entry, BalanceColumn column) {
+StatementField& AdbField(StatementEntry& entry, BalanceColumn column) {
   return column == BalanceColumn::Ledger ? entry.txtADBLedgerBalance : entry.txtADBCollectedBalance;
 }
 
-const EntryField& AdbField(const StatementEntry& entry, BalanceColumn column) {
+const StatementField& AdbField(const StatementEntry& entry, BalanceColumn column) {
   return column == BalanceColumn::Ledger ? entry.txtADBLedgerBalance : entry.txtADBCollectedBalance;
 }
 
-const EntryField& DaysInUse(const StatementEntry& entry, BalanceColumn column) {
+const StatementField& DaysInUse(const StatementEntry& entry, BalanceColumn column) {
   const bool collected = column == BalanceColumn::Collected && entry.txtColDays.enabled;
   return collected ? entry.txtColDays : entry.txtLedgerdays;
 }

@@ -20,12 +20,12 @@ BalanceColumn BasisColumn(const SessionRecord& session);
 bool BasisUses(const SessionRecord& session, BalanceColumn column);
 
 // The fields of a column.
-EntryField& DaysField(StatementEntry& entry, BalanceColumn column);
-EntryField& AdbField(StatementEntry& entry, BalanceColumn column);
-const EntryField& AdbField(const StatementEntry& entry, BalanceColumn column);
+StatementField& DaysField(StatementEntry& entry, BalanceColumn column);
+StatementField& AdbField(StatementEntry& entry, BalanceColumn column);
+const StatementField& AdbField(const StatementEntry& entry, BalanceColumn column);
 
 /// The days field that counts for a column: its own while it is enabled, else the ledger's.
-const EntryField& DaysInUse(const StatementEntry& entry, BalanceColumn column);
+const StatementField& DaysInUse(const StatementEntry& entry, BalanceColumn column);
 
 // What choosing "Ledger = Collected" and "Ledger ADB" does to the two columns; the detail of an
 // earlier computation ends.

@@ -14,20 +14,20 @@ using Entry = StatementEntry;
 
 constexpr const char* kDaysMessage = "The valid Ledger Days range is 1 to 96, inclusive";
 
-bool IsNoMinimum(const EntryField& minimum) {
+bool IsNoMinimum(const StatementField& minimum) {
   return minimum.enabled && (!minimum.IsNumber() || minimum.Value() < 0);
 }
 
-bool IsNotAboveZero(const EntryField& field) {
+bool IsNotAboveZero(const StatementField& field) {
   return field.enabled && !(field.Value() > 0);
 }
 
-bool IsNoPeriod(const EntryField& days) {
+bool IsNoPeriod(const StatementField& days) {
   return days.enabled &&
          (!IsWhole(days.Value()) || days.Value() < 1 || days.Value() > kLongestPeriod);
 }
 
-bool AreBothZero(const EntryField& days, const EntryField& adb) {
+bool AreBothZero(const StatementField& days, const StatementField& adb) {
   return days.enabled && days.Value() == 0 && adb.Value() == 0;
 }
 

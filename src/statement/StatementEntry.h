@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "statement/EntryField.h"
+#include "statement/StatementField.h"
 #include "support/Dates.h"
 
 namespace corvane {
@@ -12,13 +12,13 @@ struct SessionRecord;
 /// The statement period window's fields, options and enabled groups, named as its controls. A new
 /// one is empty, with ledger and collected balances equal and no method chosen.
 struct StatementEntry {
-  EntryField txtDateStart{.text = std::string(kEmptyDateMask)};
-  EntryField txtDateEnd{.text = std::string(kEmptyDateMask)};
-  EntryField txtMinADB;
-  EntryField txtMinDBal;
-  EntryField txtDClApy;
-  EntryField txtIntRate;
-  EntryField txtDRFactor;
+  StatementField txtDateStart{.text = std::string(kEmptyDateMask)};
+  StatementField txtDateEnd{.text = std::string(kEmptyDateMask)};
+  StatementField txtMinADB;
+  StatementField txtMinDBal;
+  StatementField txtDClApy;
+  StatementField txtIntRate;
+  StatementField txtDRFactor;
   bool optDailyBal = false;
   bool optADB = false;
   bool fraIntCalcMethod = true;  ///< enabled
@@ -28,13 +28,13 @@ struct StatementEntry {
   bool optLADBYes = true;
   bool optLADBNo = false;
   bool Frame4 = false;  ///< enabled: the choice of the ledger ADB
-  EntryField txtLedgerdays;
-  EntryField txtADBLedgerBalance;
+  StatementField txtLedgerdays;
+  StatementField txtADBLedgerBalance;
   bool cmdComputeLADB = true;  ///< enabled
-  EntryField txtColDays{.text = {}, .enabled = false};
-  EntryField txtADBCollectedBalance{.text = {}, .enabled = false};
+  StatementField txtColDays{.text = {}, .enabled = false};
+  StatementField txtADBCollectedBalance{.text = {}, .enabled = false};
   bool cmdComputeCADB = false;  ///< enabled
-  EntryField txtIntAmt;
+  StatementField txtIntAmt;
 };
 
 /// The window's lblTopic.

@@ -24,11 +24,11 @@ constexpr PeriodMessages kDaysFieldMessages = {"Starting Date Date is invalid, P
                                                "Ending Date Date is invalid, Please correct",
                                                "Number of days may not exceed 96, Please adjust"};
 
-constexpr std::string_view kLeavesUncounted[] = {"txtDateStart", "txtDateEnd",   "ImgCalendar",
-                                                 "cmdBack",      "cmdNewAcct",   "cmdExit",
-                                                 "mnuMain",      "mnuNewAccount"};
+constexpr std::string_view kLeavesUncounted[] = {"txtDateStart", "txtDateEnd",    "ImgCalendar",
+                                                 "cmdBack",      "cmdNewAcct",    "cmdExit",
+                                                 "mnuMain",      "mnuNewAccount", "mnuExit"};
 
-bool WantsDates(const EntryField& days, PeriodCaller caller) {
+bool WantsDates(const StatementField& days, PeriodCaller caller) {
   const std::string_view text = Trim(days.text);
   return days.enabled && (text == "0" || (caller == PeriodCaller::Calendar && text.empty()));
 }
@@ -44,7 +44,7 @@ void EmptyDates(StatementEntry& entry) {
 }
 
 void FillDays(StatementEntry& entry, PeriodCaller caller, int days) {
-  for (EntryField* field : {&entry.txtLedgerdays, &entry.txtColDays}) {
+  for (StatementField* field : {&entry.txtLedgerdays, &entry.txtColDays}) {
     if (WantsDates(*field, caller)) field->text = FormatPlain(days);
   }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "statement/EntryField.h"
+#include "statement/StatementField.h"
 
 namespace corvane {
 
@@ -23,8 +23,8 @@ struct StatementSetup {
   bool optFormulaNo = true;
   bool fraLYear = false;      ///< enabled
   bool fraAPYFormula = true;  ///< enabled, and shown with its labels and txtDCPeriod
-  EntryField txtDCompounding{.text = {}, .enabled = false};
-  EntryField txtDCPeriod{.text = {}, .enabled = false};
+  StatementField txtDCompounding{.text = {}, .enabled = false};
+  StatementField txtDCPeriod{.text = {}, .enabled = false};
 };
 
 /// The setup of a window that opens; from then on computed values are rounded.

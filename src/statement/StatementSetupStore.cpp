@@ -8,11 +8,11 @@ namespace corvane {
 
 namespace {
 
-bool IsNoDayCount(const EntryField& days) {
+bool IsNoDayCount(const StatementField& days) {
   return !days.IsNumber() || !IsWhole(days.Value());
 }
 
-bool IsNoInterval(const EntryField& days) {
+bool IsNoInterval(const StatementField& days) {
   return IsNoDayCount(days) || days.Value() < 1 || days.Value() > INT16_MAX;
 }
 

@@ -47,7 +47,7 @@ TEST(EntryChecks, ComeInTheirOrder) {
 }
 
 TEST(EntryChecks, RefuseWhatTheFormulasCannotTake) {
-  using Field = EntryField StatementEntry::*;
+  using Field = StatementField StatementEntry::*;
   struct Row {
     Field field;
     std::vector<const char*> refused;

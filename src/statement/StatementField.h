@@ -7,7 +7,7 @@
 namespace corvane {
 
 /// A text field as its window shows it. Only an enabled field takes part in entry checks.
-struct EntryField {
+struct StatementField {
   std::string text;
   bool enabled = true;
 
