@@ -172,6 +172,10 @@ void frmCallStatement::Days_LostFocus(const QString& next) {
   Tell({refusal->text, ""});
   // A button that was about to act must not go on to tell of the same dates again.
   HoldFocus(findChild<QWidget*>(QString::fromStdString(refusal->field)));
+  // The mouse press that took the focus still reaches its button; its release went to the message.
+  QTimer::singleShot(0, this, [this, next] {
+    if (auto* pressed = findChild<QAbstractButton*>(next)) pressed->setDown(false);
+  });
 }
 
 bool frmCallStatement::PickDate(QLineEdit* field) {

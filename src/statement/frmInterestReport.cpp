@@ -35,13 +35,17 @@ frmInterestReport::frmInterestReport(WindowRegistry& windows)
 
 frmInterestReport::~frmInterestReport() = default;
 
+void frmInterestReport::Form_Load() {
+  // Built before the window shows: the desktop would map a window that gets its browser later anew,
+  // behind the one that it is for.
+  Create_Web_Report();
+}
+
 void frmInterestReport::Form_Activate() {
   FocusField(ui_->cmdExit);
-  if (!built_) Create_Web_Report();
 }
 
 void frmInterestReport::Create_Web_Report() {
-  built_ = true;
   viewer_->BuildAndShow(Session(), InterestReport(Session(), {Session().AdditionalApy}));
 }
 

@@ -20,6 +20,7 @@ class frmInterestReport : public Form {
   explicit frmInterestReport(WindowRegistry& windows);
   ~frmInterestReport() override;
 
+  void Form_Load() override;
   void Form_Activate() override;
 
   /// Builds the report from the days in the session record and shows it.
@@ -31,7 +32,6 @@ class frmInterestReport : public Form {
   std::unique_ptr<Ui::frmInterestReport> ui_;
   WebView* webView_;
   std::unique_ptr<ReportViewer> viewer_;
-  bool built_ = false;
 };
 
 }  // namespace corvane

@@ -30,6 +30,14 @@ QLineEdit* MakeField(QWidget* parent, const char* name, int index, const char* t
   return field;
 }
 
+/// A rate that is worked out is there to be read, though it cannot be typed.
+void KeepReadable(QLineEdit* field) {
+  QPalette palette = field->palette();
+  palette.setBrush(QPalette::Disabled, QPalette::Text,
+                   palette.brush(QPalette::Active, QPalette::Text));
+  field->setPalette(palette);
+}
+
 }  // namespace
 
 frmInterestbyDay::frmInterestbyDay(WindowRegistry& windows)
@@ -63,6 +71,7 @@ frmInterestbyDay::Row frmInterestbyDay::MakeRow(int index) {
   const Row row{new QLabel(ui_->fraDays),
                 MakeField(ui_->fraDays, "txtDayBal", index, "Daily Balance", kFieldWidth),
                 MakeField(ui_->fraDays, "txtRate", index, "Daily Interest Rate", kRateWidth)};
+  KeepReadable(row.rate);
   row.label->setObjectName(QString("lblDay(%1)").arg(index));
   row.label->setBuddy(row.balance);
   const int line = 1 + index % kRowsPerColumn;
