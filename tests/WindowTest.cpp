@@ -37,6 +37,13 @@ void WindowTest::Answer(QMessageBox& box) {
   QTest::mouseClick(button, Qt::LeftButton);
 }
 
+/// Without a window manager nobody else brings a window back once a box above it has closed.
+void WindowTest::Activate() const {
+  if (!front_ || !front_->isVisible() || QApplication::activePopupWidget()) return;
+  if (!front_->isActiveWindow()) front_->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(front_));
+}
+
 void WindowTest::Type(const QString& field, const QString& text) {
   auto* edit = Get<QLineEdit>(field);
   if (!edit) return;
@@ -48,12 +55,14 @@ void WindowTest::Type(const QString& field, const QString& text) {
 }
 
 void WindowTest::Keys(const QString& text) {
+  Activate();
   for (const QChar& letter : text) {
     QTest::keyClick(QApplication::focusWidget(), letter.toLatin1());
   }
 }
 
 void WindowTest::Key(int key, Qt::KeyboardModifiers modifiers) {
+  Activate();
   QWidget* receiver = QApplication::focusWidget();
   QTest::keyClick(receiver ? receiver : front_, static_cast<Qt::Key>(key), modifiers);
 }
@@ -85,6 +94,7 @@ void WindowTest::Menu(const QString& menu, const QString& item) {
 }
 
 void WindowTest::AccessKey(int key) {
+  Activate();
   QTest::keyClick(front_, static_cast<Qt::Key>(key), Qt::AltModifier);
 }
 
@@ -99,6 +109,7 @@ std::string WindowTest::Caption(const QString& label) const {
 }
 
 std::string WindowTest::Focus() const {
+  Activate();
   const QWidget* focus = QApplication::focusWidget();
   return focus ? focus->objectName().toStdString() : "";
 }
