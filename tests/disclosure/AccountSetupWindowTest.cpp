@@ -61,7 +61,6 @@ TEST_F(AccountSetupWindow, ContinueRefusesAndPutsTheFocusOnTheInterval) {
   const struct {
     const char *choices, *typed, *message;
   } cases[] = {
-      {"optICDays", "-1", "Please enter a valid compounding interval."},
       {"optICDays", "32768", "Please enter a valid compounding interval."},
       {"optICMonths", "5", "Months between compounding must be 1, 2, 3, 4, 6 or 12."},
       {"optICDays optRIMonths", "2",
