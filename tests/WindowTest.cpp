@@ -19,11 +19,6 @@ void WindowTest::TearDown() {
   SetToday({});
 }
 
-void WindowTest::Activate() {
-  if (!front_->isActiveWindow()) front_->activateWindow();
-  EXPECT_TRUE(QTest::qWaitForWindowActive(front_));
-}
-
 void WindowTest::Answer(QMessageBox& box) {
   const std::string text = box.text().toStdString();
   if (expected_.empty()) {
@@ -40,6 +35,12 @@ void WindowTest::Answer(QMessageBox& box) {
   auto* button = box.button(expected.answer);
   ASSERT_NE(button, nullptr) << text;
   QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void WindowTest::Activate() const {
+  if (!front_ || !front_->isVisible() || QApplication::activePopupWidget()) return;
+  if (!front_->isActiveWindow()) front_->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(front_));
 }
 
 void WindowTest::Type(const QString& field, const QString& text) {
@@ -94,6 +95,7 @@ void WindowTest::Menu(const QString& menu, const QString& item) {
 }
 
 void WindowTest::AccessKey(int key) {
+  Activate();
   QTest::keyClick(front_, static_cast<Qt::Key>(key), Qt::AltModifier);
 }
 
@@ -107,7 +109,7 @@ std::string WindowTest::Caption(const QString& label) const {
   return control ? control->text().toStdString() : "";
 }
 
-std::string WindowTest::Focus() {
+std::string WindowTest::Focus() const {
   Activate();
   const QWidget* focus = QApplication::focusWidget();
   return focus ? focus->objectName().toStdString() : "";

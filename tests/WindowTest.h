@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 
 #include <gtest/gtest.h>
 #include <QtTest>
@@ -65,6 +66,18 @@ class WindowTest : public ::testing::Test {
   void Menu(const QString& menu, const QString& item);
   /// Presses Alt and a captioned letter.
   void AccessKey(int key);
+  /// What to do in a modal window that the next act opens: the act comes back when it has closed.
+  template <class AForm>
+  void WhenShown(std::function<void()> doThere) {
+    QTimer::singleShot(0, qApp, [this, doThere] {
+      InFront<AForm>();
+      doThere();
+    });
+  }
+  /// Waits for the boxes that an access key raises, because its button first shows itself pressed.
+  void AwaitBoxes() {
+    EXPECT_TRUE(QTest::qWaitFor([this] { return expected_.empty(); }));
+  }
   /// Closes the window in front by its frame.
   void CloseByFrame() { front_->close(); }
 
@@ -73,18 +86,19 @@ class WindowTest : public ::testing::Test {
   bool IsShown(const QString& control) const { return Get<QWidget>(control)->isVisible(); }
   bool IsEnabled(const QString& control) const { return Get<QWidget>(control)->isEnabled(); }
   /// Name of the control that has the focus.
-  std::string Focus();
+  std::string Focus() const;
+  bool IsChosen(const QString& option) const { return Get<QRadioButton>(option)->isChecked(); }
 
   SessionRecord session;
   WindowRegistry windows{session};
 
  private:
+  void Answer(QMessageBox& box);
   /// Without a window manager nobody else brings the window in front back once a message box or
   /// another window above it has closed.
-  void Activate();
-  void Answer(QMessageBox& box);
+  void Activate() const;
 
-  Form* front_ = nullptr;
+  QPointer<Form> front_;
   std::deque<ExpectedBox> expected_;
 };
 

@@ -51,6 +51,9 @@ void Form::FocusField(QWidget* field) {
 
 void Form::OnClick(QAbstractButton* button, Handler handler) {
   if (auto* push = qobject_cast<QPushButton*>(button)) push->setAutoDefault(true);
+  // The focus moves when the button acts, below: moved by the press, a message that the field left
+  // behind shows would come between press and release.
+  button->setFocusPolicy(Qt::TabFocus);
   connect(button, &QAbstractButton::clicked, this, [this, button, handler] {
     if (TakeFocus(button)) handler();
   });
@@ -83,6 +86,8 @@ void Form::OnLostFocus(QWidget* field, LostFocusHandler handler) {
 void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
   numeric_[field] = rule;
   field->installEventFilter(this);
+  // What an input method composes would not pass the key filter.
+  field->setAttribute(Qt::WA_InputMethodEnabled, false);
   OnChange(field, [this, field, rule] { NumericChange(field, rule); });
 }
 
@@ -166,7 +171,8 @@ void Form::RaiseLostFocus(QWidget* field, const QString& next) {
 bool Form::TakeFocus(QAbstractButton* button) {
   focusHeld_ = false;
   button->setFocus();
-  MoveFocus(button);
+  // A field that holds on to the focus has said why already.
+  if (!focusHeld_) MoveFocus(button);
   return !focusHeld_;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QThread>
 
 #include "platform/WorkArea.h"
 #include "shell/AccountHeader.h"
@@ -49,6 +50,8 @@ void WindowRegistry::BringToFront(Form& form) {
 }
 
 void WindowRegistry::RunModal(Form& form) {
+  // A window that is on the screen already does not become modal.
+  form.hide();
   form.setWindowModality(Qt::ApplicationModal);
   BringToFront(form);
   QEventLoop loop;
@@ -100,7 +103,9 @@ void WindowRegistry::EndProgram() {
 
 void WindowRegistry::EndProcess() {
   ended_ = true;
-  QCoreApplication::quit();
+  // quit() would first close all windows as their frames do, and stop at one that only closes.
+  // Where no event loop runs, none is left, and one that starts later must not end at once.
+  if (QThread::currentThread()->loopLevel() > 0) QCoreApplication::exit();
 }
 
 }  // namespace corvane

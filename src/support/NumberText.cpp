@@ -36,16 +36,7 @@ std::string Grouped(std::string text) {
   return text;
 }
 
-}  // namespace
-
-std::string_view Trim(std::string_view text) {
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-bool IsNumeric(std::string_view text) {
-  text = Trim(text);
+bool HasNumberForm(std::string_view text) {
   if (!text.empty() && (text.front() == '+' || text.front() == '-')) text.remove_prefix(1);
   int digits = 0;
   int points = 0;
@@ -61,13 +52,33 @@ bool IsNumeric(std::string_view text) {
   return digits > 0 && points <= 1;
 }
 
-double NumericValue(std::string_view text) {
-  if (!IsNumeric(text)) return 0;
+/// The number, or nothing when the text is none or a double cannot hold it; 0 would be wrong there.
+std::optional<double> Parsed(std::string_view text) {
   text = Trim(text);
+  if (!HasNumberForm(text)) return std::nullopt;
   if (text.front() == '+') text.remove_prefix(1);
   double value = 0;
-  std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
-  return value;
+  const auto read =
+      std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+  const bool outOfRange = read.ec == std::errc::result_out_of_range;
+  const bool isHuge = outOfRange && text.find_first_of("123456789") < text.find('.');
+  return isHuge ? std::nullopt : std::optional(value);
+}
+
+}  // namespace
+
+std::string_view Trim(std::string_view text) {
+  const auto first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+bool IsNumeric(std::string_view text) {
+  return Parsed(text).has_value();
+}
+
+double NumericValue(std::string_view text) {
+  return Parsed(text).value_or(0);
 }
 
 std::optional<std::int16_t> WholeNumber(double value) {

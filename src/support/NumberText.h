@@ -11,8 +11,8 @@ namespace corvane {
 std::string_view Trim(std::string_view text);
 
 /// True when the text, blanks trimmed, is an optional sign, digits and at most one point, with at
-/// least one digit. Thousands commas, exponents and currency signs make it no number; the decimal
-/// point is "." in every locale.
+/// least one digit. Thousands commas, exponents and currency signs make it no number, and so does a
+/// size that a double cannot hold; the decimal point is "." in every locale.
 bool IsNumeric(std::string_view text);
 
 /// The number that the text stands for, 0 when it is none.

@@ -40,10 +40,14 @@ bool frmCalendar::GetDate(Date& date, const QString& caption) {
   MoveTo(date.ok() ? date : Today());
   PlaceBesidePointer();
   ui_->picMonth->setFocus();
-  const QPointer<frmCalendar> self = this;
+  // Read when the window closes: it may be gone when the call below returns.
+  bool chosen = false;
+  connect(this, &Form::Unloaded, [this, &chosen, &date] {
+    chosen = dateChosen_;
+    if (chosen) date = current_;
+  });
   Windows().RunModal(*this);
-  if (self && dateChosen_) date = current_;
-  return self && dateChosen_;
+  return chosen;
 }
 
 void frmCalendar::PlaceBesidePointer() {

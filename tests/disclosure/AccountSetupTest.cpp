@@ -7,155 +7,110 @@
 namespace corvane {
 namespace {
 
-using Change = void (*)(AccountSetup&);
-
-/// A regular account, compounded daily in a year of 365 days, then changed.
-AccountSetup Changed(const char* interval, Change change) {
+/// The choices whose names the words hold, in a year of 365 days.
+AccountSetup Chosen(const std::string& words, const char* interval = "1") {
+  const std::pair<const char*, bool AccountSetup::*> options[] = {
+      {"None", &AccountSetup::optICNone},          {"Days", &AccountSetup::optICDays},
+      {"Months", &AccountSetup::optICMonths},      {"Years", &AccountSetup::optICYears},
+      {"regular", &AccountSetup::optRegNoDisc},    {"methodA", &AccountSetup::optTierA},
+      {"methodB", &AccountSetup::optTierB},        {"keeping", &AccountSetup::optRINotReq},
+      {"withdrawing", &AccountSetup::optRIMonths}, {"366", &AccountSetup::optDY366},
+      {"counting", &AccountSetup::optLYYes},
+  };
   AccountSetup setup;
-  setup.optICDays = setup.optRegNoDisc = setup.optRINotReq = setup.optDY365 = setup.optLYNo = true;
+  for (const auto& [word, option] : options) setup.*option = words.find(word) != words.npos;
+  setup.optDY365 = !setup.optDY366;
+  setup.optLYNo = !setup.optLYYes;
   setup.txtDailyCompounding = interval;
-  change(setup);
   return setup;
 }
 
-void AsItIs(AccountSetup&) {}
-void None(AccountSetup& s) {
-  s.optICDays = false;
-  s.optICNone = true;
-}
-void Months(AccountSetup& s) {
-  s.optICDays = false;
-  s.optICMonths = true;
-}
-void Years(AccountSetup& s) {
-  s.optICDays = false;
-  s.optICYears = true;
-}
-void NoAccountType(AccountSetup& s) {
-  s.optRegNoDisc = false;
-}
-void WithdrawnByMonths(AccountSetup& s) {
-  s.optRINotReq = false;
-  s.optRIMonths = true;
-}
-void MonthsByMonthsMethodB(AccountSetup& s) {
-  Months(s);
-  WithdrawnByMonths(s);
-  s.optRegNoDisc = false;
-  s.optTierB = true;
-}
-void MonthsByMonthsMethodA(AccountSetup& s) {
-  MonthsByMonthsMethodB(s);
-  s.optTierB = false;
-  s.optTierA = true;
-}
-
-constexpr const char* kNoType = "Please select an Account Type.";
-constexpr const char* kInterval = "Please enter a valid compounding interval.";
-constexpr const char* kMonths = "Months between compounding must be 1, 2, 3, 4, 6 or 12.";
-constexpr const char* kLongPeriods =
-    "Withdrawals measured in months need compounding every day or by months.";
-
 TEST(AccountSetup, ChecksInOrderAndWhatIsStored) {
+  const char* type = "Please select an Account Type.";
+  const char* valid = "Please enter a valid compounding interval.";
+  const char* months = "Months between compounding must be 1, 2, 3, 4, 6 or 12.";
+  const char* longPeriods =
+      "Withdrawals measured in months need compounding every day or by months.";
   const struct {
-    Change change;
-    const char* interval;
-    const char* message;  // null where the setup is accepted
-    int stored;
+    const char* choices;
+    std::vector<const char*> intervals;
+    const char* message;  // empty where the setup is accepted
+    int stored = 0;
   } cases[] = {
-      {NoAccountType, "-1", kNoType, 0},
-      {AsItIs, "-1", kInterval, 0},
-      {AsItIs, "40000", kInterval, 0},
-      {Months, "-1", kInterval, 0},
-      {Years, "32768", kInterval, 0},
-      {Months, "0", kMonths, 0},
-      {Months, "5", kMonths, 0},
-      {Months, "7", kMonths, 0},
-      {Months, "11", kMonths, 0},
-      {Months, "24", kMonths, 0},
-      {WithdrawnByMonths, "2", kLongPeriods, 0},
-      {Months, "1", nullptr, 1},
-      {Months, "2", nullptr, 2},
-      {Months, "3", nullptr, 3},
-      {Months, "4", nullptr, 4},
-      {Months, "6", nullptr, 6},
-      {Months, "12", nullptr, 12},
-      {Months, "x", nullptr, 0},
-      {WithdrawnByMonths, "1", nullptr, 1},
-      {MonthsByMonthsMethodB, "1", nullptr, 1},
-      {AsItIs, "", nullptr, 0},
-      {AsItIs, "x", nullptr, 0},
-      {AsItIs, "0", nullptr, 0},
-      {AsItIs, "2.5", nullptr, 2},
-      {AsItIs, "3.5", nullptr, 4},
-      {AsItIs, "32767", nullptr, 32767},
-      {Years, "7", nullptr, 7},
-      {None, "40000", nullptr, 0},
+      {"Days", {"-1"}, type},
+      {"regular Days", {"-1", "-.6", "32768", "40000"}, valid},
+      {"regular Months withdrawing", {"-1"}, valid},
+      {"regular Months", {"0", "5", "7", "11", "13", "24"}, months},
+      {"regular Days withdrawing", {"2", "32767"}, longPeriods},
+      {"regular Months", {"x", ""}, ""},
+      {"regular Months", {"2", "1.5", "2.5"}, "", 2},
+      {"regular Months withdrawing", {"12"}, "", 12},
+      {"regular Days withdrawing", {"1", ".9"}, "", 1},
+      {"methodA Days", {"x", "", "0", "0.5"}, "", 0},
+      {"methodB Days", {"3.5"}, "", 4},
+      {"regular Years", {"32767"}, "", 32767},
+      {"regular None", {"40000"}, "", 0},
   };
   for (const auto& c : cases) {
-    AccountSetup setup = Changed(c.interval, c.change);
-    const std::string shown = std::string(c.interval) + ", " + (c.message ? c.message : "");
-    const auto refusal = CheckSetup(setup);
-    ASSERT_EQ(refusal.has_value(), c.message != nullptr) << shown;
-    if (refusal) {
-      const bool aboutType = c.message == kNoType;
-      EXPECT_EQ(refusal->text, c.message);
-      EXPECT_EQ(refusal->title, "Key Entry Error");
-      EXPECT_EQ(refusal->field, aboutType ? "" : "txtDailyCompounding");
-      EXPECT_EQ(refusal->icon, aboutType ? MessageIcon::None : MessageIcon::Exclamation);
-      continue;
+    for (const char* interval : c.intervals) {
+      AccountSetup setup = Chosen(c.choices, interval);
+      const auto shown = std::string(c.choices) + " " + interval;
+      const auto refusal = CheckSetup(setup);
+      EXPECT_EQ(refusal ? refusal->text : "", c.message) << shown;
+      if (refusal) {
+        EXPECT_EQ(refusal->field, c.message == type ? "" : "txtDailyCompounding");
+        EXPECT_EQ(refusal->icon == MessageIcon::None, c.message == type);
+        continue;
+      }
+      SessionRecord session;
+      session.PeriodCount = 3;
+      StoreSetup(session, setup);
+      EXPECT_EQ(session.CompoundingDays, c.stored) << shown;
+      EXPECT_EQ(session.CompoundMonths, setup.optICMonths) << shown;
+      EXPECT_EQ(session.ReqWdrwlMonths, setup.optRIMonths) << shown;
+      EXPECT_EQ(session.PeriodCount, 0);
+      EXPECT_TRUE(session.RoundNotTruncate);
     }
-    SessionRecord session;
-    session.PeriodCount = 3;
-    StoreSetup(session, setup);
-    EXPECT_EQ(session.CompoundingDays, c.stored) << shown;
-    EXPECT_EQ(session.PeriodCount, 0);
-    EXPECT_TRUE(session.RoundNotTruncate);
-    EXPECT_EQ(session.CompoundNone, setup.optICNone);
-    EXPECT_EQ(session.CompoundDays, setup.optICDays);
-    EXPECT_EQ(session.CompoundMonths, setup.optICMonths);
-    EXPECT_EQ(session.CompoundYears, setup.optICYears);
-    EXPECT_EQ(session.ReqWdrwlMonths, setup.optRIMonths);
-    EXPECT_EQ(session.ReqWdrwlNotReq, setup.optRINotReq);
-    EXPECT_EQ(session.AcctTierB, setup.optTierB);
   }
 }
 
 TEST(AccountSetup, OnlyMethodBRefusesMonthsByMonths) {
-  for (const auto& [change, refused] : {std::pair<Change, bool>{MonthsByMonthsMethodB, true},
-                                        {MonthsByMonthsMethodA, false},
-                                        {Months, false}}) {
-    AccountSetup setup = Changed("1", change);
+  for (const auto& [choices, message] :
+       {std::pair{"methodB Months withdrawing", "Months/Months is not in production yet"},
+        {"methodB Months keeping", ""},
+        {"methodB Days withdrawing", ""},
+        {"methodA Months withdrawing", ""}}) {
+    AccountSetup setup = Chosen(choices);
     SessionRecord session;
     StoreSetup(session, setup);
     const auto refusal = CheckMonthsByMonths(session);
-    EXPECT_EQ(refusal ? refusal->text : "",
-              refused ? "Months/Months is not in production yet" : "");
+    EXPECT_EQ(refusal ? refusal->text : "", message) << choices;
   }
 }
 
 TEST(AccountSetup, AYearOf366DaysAlwaysCountsTheLeapDayAndSaysSoOnce) {
-  const struct {
-    bool is366, countsIt, told;
-    double days;
-  } cases[] = {{false, false, false, 365},
-               {false, true, false, 365},
-               {true, true, false, 366},
-               {true, false, true, 366}};
-  for (const auto& c : cases) {
-    AccountSetup setup = Changed("1", AsItIs);
-    setup.optDY365 = !(setup.optDY366 = c.is366);
-    setup.optLYNo = !(setup.optLYYes = c.countsIt);
+  for (const auto& [choices, days, counts, told] : {std::tuple{"365", 365, false, false},
+                                                    {"365 counting", 365, true, false},
+                                                    {"366 counting", 366, true, false},
+                                                    {"366", 366, true, true}}) {
+    AccountSetup setup = Chosen(choices);
     SessionRecord session;
     const auto notice = StoreDaysInYear(session, setup);
-    EXPECT_EQ(notice.has_value(), c.told) << c.days;
-    EXPECT_EQ(session.DaysInYear, c.days);
-    EXPECT_EQ(session.CountLeapDay, c.countsIt || c.is366);
-    if (!notice) continue;
-    EXPECT_EQ(notice->text, "Count 2/29 will be changed to Yes, No is not allowed for 366 days.");
-    EXPECT_EQ(notice->icon, MessageIcon::None);
+    EXPECT_EQ(notice.has_value(), told) << choices;
+    EXPECT_EQ(session.DaysInYear, days) << choices;
+    EXPECT_EQ(session.CountLeapDay, counts) << choices;
     EXPECT_FALSE(StoreDaysInYear(session, setup)) << "the choice was changed";
   }
+}
+
+TEST(AccountSetup, TheEntryIsKeptForTheSameAccountTypeOnly) {
+  SessionRecord session;
+  session.AcctTypeCode = session.PrevAcctTypeCode = 1;
+  EXPECT_FALSE(KeepsEntry(session));
+  session.EntryDataKept = true;
+  EXPECT_TRUE(KeepsEntry(session));
+  session.AcctTypeCode = 2;
+  EXPECT_FALSE(KeepsEntry(session));
 }
 
 }  // namespace

@@ -10,11 +10,6 @@ class SteppedAccount : public DisclosureTest {
     Choose("optStepRate");
   }
 
-  void Continue() {
-    Click("cmdNext");
-    InFront<frmAcctRegularStepped>();
-  }
-
   void NextPeriod() {
     Click("cmdNext");
     InFront<frmDisplayResultsweb>();
@@ -31,11 +26,7 @@ TEST_F(SteppedAccount, ComputesTheRegulationsExamplePeriodByPeriod) {
   Continue();
   EXPECT_EQ(Caption("lblPeriodNumber"), "Period No. 1");
   EXPECT_EQ(Focus(), "txtTierPerNum");
-  Enter({{"txtTierPerNum", "2"},
-         {"txtDiscAPY", "5.39"},
-         {"txtBal", "1000"},
-         {"txtIntRateA", "5"},
-         {"txtTerm", "91"}});
+  Enter("txtTierPerNum=2 txtDiscAPY=5.39 txtBal=1000 txtIntRateA=5 txtTerm=91");
   NextPeriod();
   EXPECT_EQ(ReportRowCount(), 2) << "the period to come shows as an unfilled row";
   EXPECT_EQ(session.RptVerdict.At(1), session.ApyVerdict);
@@ -46,9 +37,8 @@ TEST_F(SteppedAccount, ComputesTheRegulationsExamplePeriodByPeriod) {
   for (const char* fixed : {"txtTierPerNum", "txtDiscAPY", "txtBal"}) {
     EXPECT_FALSE(IsEnabled(fixed)) << fixed;
   }
-  Enter({{"txtIntRateA", "5.5"}, {"txtTerm", "92"}});
-  Click("cmdCalculateResult");
-  InFront<frmDisplayResultsweb>();
+  Enter("txtIntRateA=5.5 txtTerm=92");
+  Calculate();
   EXPECT_EQ(ReportRowCount(), 2);
   EXPECT_NEAR(session.ComputedInterest, 26.68, 0.005);
   EXPECT_EQ(session.ComputedApy, 5.39);
@@ -60,19 +50,14 @@ TEST_F(SteppedAccount, ComputesTheRegulationsExamplePeriodByPeriod) {
 
 TEST_F(SteppedAccount, BackCorrectsEveryPeriodAndLosesNothing) {
   Continue();
-  Enter({{"txtTierPerNum", "3"},
-         {"txtDiscAPY", "5"},
-         {"txtBal", "1000"},
-         {"txtIntRateA", "4.1265"},
-         {"txtTerm", "100"}});
+  Enter("txtTierPerNum=3 txtDiscAPY=5 txtBal=1000 txtIntRateA=4.1265 txtTerm=100");
   NextPeriod();
   Back();
-  Enter({{"txtIntRateA", "5"}, {"txtTerm", "120"}});
+  Enter("txtIntRateA=5 txtTerm=120");
   NextPeriod();
   Back();
-  Enter({{"txtIntRateA", "6"}, {"txtTerm", "145"}});
-  Click("cmdCalculateResult");
-  InFront<frmDisplayResultsweb>();
+  Enter("txtIntRateA=6 txtTerm=145");
+  Calculate();
   const double interest = session.ComputedInterest;
   Back();
   EXPECT_EQ(Caption("lblPeriodNumber"), "Period No. 3");
@@ -88,21 +73,16 @@ TEST_F(SteppedAccount, BackCorrectsEveryPeriodAndLosesNothing) {
   EXPECT_EQ(Text("txtBal"), "2000.00");
   NextPeriod();
   Back();
-  Click("cmdCalculateResult");
-  InFront<frmDisplayResultsweb>();
+  Calculate();
   EXPECT_NEAR(session.ComputedInterest, 2 * interest, 0.01);
 }
 
 TEST_F(SteppedAccount, AnotherNumberOfPeriodsForgetsThePeriodsBehindTheFirst) {
   Continue();
-  Enter({{"txtTierPerNum", "3"},
-         {"txtDiscAPY", "5"},
-         {"txtBal", "1000"},
-         {"txtIntRateA", "5"},
-         {"txtTerm", "100"}});
+  Enter("txtTierPerNum=3 txtDiscAPY=5 txtBal=1000 txtIntRateA=5 txtTerm=100");
   NextPeriod();
   Back();
-  Enter({{"txtIntRateA", "5"}, {"txtTerm", "120"}});
+  Enter("txtIntRateA=5 txtTerm=120");
   NextPeriod();
   Back();
   Back();
@@ -133,13 +113,9 @@ TEST_F(SteppedAccount, MonthPeriodsBeginWhereTheLastOneEnded) {
   Choose("optICMonths");
   Type("txtDailyCompounding", "3");
   Continue();
-  Enter({{"txtTierPerNum", "2"},
-         {"txtBeginMonth", "11"},
-         {"txtBeginYear", "2023"},
-         {"txtDiscAPY", "5"},
-         {"txtBal", "1000"},
-         {"txtIntRateA", "5"},
-         {"txtTerm", "2"}});
+  Enter(
+      "txtTierPerNum=2 txtBeginMonth=11 txtBeginYear=2023 txtDiscAPY=5 txtBal=1000 txtIntRateA=5 "
+      "txtTerm=2");
   NextPeriod();
   Back();
   EXPECT_EQ(Text("txtBeginMonth"), "05");

@@ -21,11 +21,7 @@ class TieredAccount : public DisclosureTest {
 
   /// The regulation's tiers: 5.25 % up to $2,500, 5.50 % up to $15,000, 5.75 % above.
   void TypeRegulationTable() {
-    Enter({{"txtInt(1)", "5.25"},
-           {"txt_bne(1)", "2500"},
-           {"txtInt(2)", "5.5"},
-           {"txt_bne(2)", "15000"},
-           {"txtInt(3)", "5.75"}});
+    Enter("txtInt(1)=5.25 txt_bne(1)=2500 txtInt(2)=5.5 txt_bne(2)=15000 txtInt(3)=5.75");
   }
 
   void OpenEntry() {
@@ -158,9 +154,9 @@ TEST_F(TieredAccount, TheTableRefusesWhatTheTiersCannotUse) {
 TEST_F(TieredAccount, AChangedTableVoidsTheEntriesAndAnUnchangedOneKeepsThem) {
   OpenTable("optTierA", 2);
   EXPECT_FALSE(IsShown("txt_bne(2)"));
-  Enter({{"txtInt(1)", "4.1265"}, {"txt_bne(1)", "2500"}, {"txtInt(2)", "5"}});
+  Enter("txtInt(1)=4.1265 txt_bne(1)=2500 txtInt(2)=5");
   OpenEntry();
-  Enter({{"txtBal", "1000"}, {"txtDiscAPY", "4.2"}, {"txtTerm", "365"}});
+  Enter("txtBal=1000 txtDiscAPY=4.2 txtTerm=365");
   Click("cmdBack");
   InFront<frmAcctTieredAB>();
   OpenEntry();
@@ -175,7 +171,7 @@ TEST_F(TieredAccount, AChangedTableVoidsTheEntriesAndAnUnchangedOneKeepsThem) {
 
 TEST_F(TieredAccount, NewAccountAndMainMenuForgetTheTable) {
   OpenTable("optTierB", 2);
-  Enter({{"txtInt(1)", "5"}, {"txt_bne(1)", "2500"}, {"txtInt(2)", "6"}});
+  Enter("txtInt(1)=5 txt_bne(1)=2500 txtInt(2)=6");
   OpenEntry();
   Click("cmdAcctInfo");
   InFront<frmAcctAdvertAPY>();

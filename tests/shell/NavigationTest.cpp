@@ -1,5 +1,6 @@
 #include "WindowTest.h"
 #include "disclosure/frmAcctAdvertAPY.h"
+#include "platform/ProgramFolder.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
@@ -44,6 +45,70 @@ TEST_F(Navigation, TheFrameOfTheAboutWindowClosesOnlyIt) {
   InFront<frmSplash>();
   CloseByFrame();
   EXPECT_TRUE(windows.HasEnded());
+}
+
+TEST_F(Navigation, ExitOfTheDisclaimerEndsTheProcessWhateverElseIsOpen) {
+  windows.Show<frmSplash>();
+  InFront<frmSplash>();
+  session.InstitutionName = "First Bank";
+  Click("cmdAbout");
+  InFront<frmAbout>();
+  QTimer::singleShot(0, [this] {
+    InFront<frmSplash>();
+    Click("cmdExit");
+  });
+  QTimer watchdog;
+  QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+  watchdog.start(5000);
+  EXPECT_EQ(QApplication::exec(), 0) << "the process goes on";
+  EXPECT_EQ(session.InstitutionName, "First Bank") << "no window was closed as by its frame";
+}
+
+TEST_F(Navigation, AboutIsModalOverTheMainMenuAlsoWhenItWasLeftOpen) {
+  windows.Show<frmSplash>();
+  InFront<frmSplash>();
+  Click("cmdAbout");
+  InFront<frmAbout>();
+  InFront<frmSplash>();
+  Click("cmdOK");
+  InFront<frmMain>();
+  WhenShown<frmAbout>([this] {
+    EXPECT_EQ(QApplication::activeModalWidget(), windows.Find<frmAbout>());
+    Expect({"System Information Is Unavailable At This Time", "Corvane Calculator",
+            MessageIcon::None});
+    Click("cmdSysInfo");
+    Click("cmdOK");
+  });
+  Menu("mnuHelp", "mnuAbout");
+  EXPECT_FALSE(IsVisible<frmAbout>());
+  EXPECT_FALSE(windows.HasEnded());
+  InFront<frmMain>();
+  Menu("mnuFile", "mnuExit");
+  EXPECT_TRUE(windows.HasEnded());
+}
+
+TEST_F(Navigation, TheTitleScreenOptionIsKeptInTheSettingsFile) {
+  QFile settings(QString::fromStdString(PathText(SettingsFile())));
+  settings.remove();
+  const auto content = [&settings] {
+    if (!settings.open(QIODevice::ReadOnly)) return QByteArray();
+    const QByteArray all = settings.readAll();
+    settings.close();
+    return all;
+  };
+  windows.Show<frmMain>();
+  InFront<frmMain>();
+  for (const bool checked : {true, false, true}) {
+    Menu("mnuOptions", "mnuShowTitle");
+    EXPECT_EQ(Get<QAction>("mnuShowTitle")->isChecked(), checked);
+    EXPECT_EQ(content(),
+              checked ? "[Options]\r\nStartup Intro=Yes\r\n" : "[Options]\r\nStartup Intro=No\r\n");
+  }
+  windows.Discard<frmMain>();
+  windows.Show<frmMain>();
+  InFront<frmMain>();
+  EXPECT_TRUE(Get<QAction>("mnuShowTitle")->isChecked());
+  settings.remove();
 }
 
 }  // namespace

@@ -9,6 +9,9 @@ TEST(NumberText, OnlyPlainDecimalTextIsANumber) {
   for (const char* text : {"5", " 5.25 ", "+5", "-.5", "5.", ".5", "007"}) {
     EXPECT_TRUE(IsNumeric(text)) << text;
   }
+  const std::string tooLarge(400, '9');
+  for (const std::string& text : {tooLarge, "-" + tooLarge}) EXPECT_FALSE(IsNumeric(text));
+  EXPECT_TRUE(IsNumeric("0." + std::string(400, '0') + "1"));
   for (const char* text : {"", " ", ".", "-", "1,000", "1e3", "$5", "5%", "1.2.3", "--5", "5-",
                            "0x10", "nan", "inf", "1 2"}) {
     EXPECT_FALSE(IsNumeric(text)) << text;

@@ -1,0 +1,90 @@
+#include <QAccessible>
+
+#include "WindowTest.h"
+#include "disclosure/frmAcctAdvertAPY.h"
+#include "disclosure/frmAcctRegularStepped.h"
+#include "disclosure/frmDisplayResultsweb.h"
+#include "shell/frmAbout.h"
+#include "shell/frmMain.h"
+#include "shell/frmSplash.h"
+#include "support/frmCalendar.h"
+
+namespace corvane {
+namespace {
+
+std::string NameOf(const QObject* object) {
+  return object->objectName().toStdString();
+}
+
+/// The controls that the Tab key reaches, in its order.
+std::vector<QWidget*> TabOrder(QWidget& form) {
+  std::vector<QWidget*> order;
+  for (QWidget* next = form.nextInFocusChain(); next != &form; next = next->nextInFocusChain()) {
+    const bool reached = next->window() == &form && next->isVisible() && next->isEnabled() &&
+                         (next->focusPolicy() & Qt::TabFocus);
+    if (reached && !next->focusProxy()) order.push_back(next);
+  }
+  return order;
+}
+
+void ExpectReadingOrder(QWidget& form) {
+  const std::vector<QWidget*> order = TabOrder(form);
+  EXPECT_FALSE(order.empty()) << NameOf(&form);
+  for (std::size_t i = 1; i < order.size(); ++i) {
+    const QRect before(order[i - 1]->mapTo(&form, QPoint()), order[i - 1]->size());
+    const QRect now(order[i]->mapTo(&form, QPoint()), order[i]->size());
+    const bool sameRow = now.top() <= before.center().y() && before.top() <= now.center().y();
+    EXPECT_TRUE(sameRow ? now.left() > before.left() : now.top() > before.top())
+        << NameOf(order[i - 1]) << " is followed by " << NameOf(order[i]);
+  }
+}
+
+void ExpectNamedFields(QWidget& form) {
+  std::set<const QWidget*> labelled;
+  for (const auto* label : form.findChildren<QLabel*>()) labelled.insert(label->buddy());
+  for (auto* field : form.findChildren<QLineEdit*>()) {
+    if (!field->isVisible()) continue;
+    auto* reader = QAccessible::queryAccessibleInterface(field);
+    EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty()) << NameOf(field);
+    EXPECT_TRUE(labelled.contains(field)) << NameOf(field) << " is no label's buddy";
+  }
+}
+
+void ExpectNamedButtons(const QWidget& form) {
+  for (const auto* button : form.findChildren<QAbstractButton*>()) {
+    const bool isOfQt = button->objectName().startsWith("qt_");
+    EXPECT_FALSE(!isOfQt && button->text().isEmpty() && button->accessibleName().isEmpty())
+        << NameOf(button);
+  }
+}
+
+class FormLayout : public WindowTest {
+ protected:
+  template <class AForm>
+  void Examine() {
+    AForm& form = windows.Get<AForm>();
+    form.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&form));
+    ExpectReadingOrder(form);
+    ExpectNamedFields(form);
+    ExpectNamedButtons(form);
+    const QSize least = form.minimumSizeHint();
+    EXPECT_TRUE(least.width() <= 1000 && least.height() <= 720)
+        << NameOf(&form) << " needs " << least.width() << " x " << least.height();
+  }
+};
+
+TEST_F(FormLayout, EveryWindowCanBeReadAndUsedByKeyboardOnASmallScreen) {
+  session.AcctStepped = session.CompoundDays = session.ReqWdrwlMonths = true;
+  session.DaysInYear365 = true;
+  Examine<frmSplash>();
+  Examine<frmMain>();
+  Examine<frmAbout>();
+  Examine<frmAcctAdvertAPY>();
+  Examine<frmAcctRegularStepped>();
+  Examine<frmDisplayResultsweb>();
+  Examine<frmCalendar>();
+}
+
+}  // namespace
+}  // namespace corvane
