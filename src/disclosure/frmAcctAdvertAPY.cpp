@@ -43,7 +43,7 @@ frmAcctAdvertAPY::frmAcctAdvertAPY(WindowRegistry& windows)
     OnLostFocus(field, [this](const QString&) { AccountHeader_LostFocus(); });
   }
   BindNumeric(ui_->txtDailyCompounding, {});
-  OnGotFocus(ui_->txtDailyCompounding, [this] { ui_->txtDailyCompounding->setSelection(0, 3); });
+  SelectTextOnFocus(ui_->txtDailyCompounding, 3);
   OnClick(ui_->cmdNext, [this] { cmdNext_Click(); });
   OnClick(ui_->cmdNewAcct, [this] { cmdNewAcct_Click(); });
   OnClick(ui_->cmdExit, [this] { cmdExit_Click(); });

@@ -91,13 +91,12 @@ void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
   OnChange(field, [this, field, rule] { NumericChange(field, rule); });
 }
 
-void Form::SelectTextOnFocus(QLineEdit* field) {
-  OnGotFocus(field, [field] {
-    field->selectAll();
+void Form::SelectTextOnFocus(QLineEdit* field, int characters) {
+  const auto select = [field, characters] { field->setSelection(0, characters); };
+  OnGotFocus(field, [field, select] {
+    select();
     // A press of the mouse places the cursor after the focus has come, which would unselect.
-    if (QApplication::mouseButtons() != Qt::NoButton) {
-      QTimer::singleShot(0, field, &QLineEdit::selectAll);
-    }
+    if (QApplication::mouseButtons() != Qt::NoButton) QTimer::singleShot(0, field, select);
   });
 }
 

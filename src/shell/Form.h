@@ -1,5 +1,6 @@
 #pragma once
 
+#include <climits>
 #include <functional>
 #include <map>
 #include <string>
@@ -85,7 +86,8 @@ class Form : public QMainWindow {
 
   /// Applies the key filter and, on every change, the minus repair and the decimal limit.
   void BindNumeric(QLineEdit* field, const NumericRule& rule);
-  void SelectTextOnFocus(QLineEdit* field);
+  /// Selects the first characters of the text, or all of it, when the field gets the focus.
+  void SelectTextOnFocus(QLineEdit* field, int characters = INT_MAX);
   /// Rewrites the field "######0.00" when it loses the focus.
   void RewriteOnLeaving(QLineEdit* field);
 
