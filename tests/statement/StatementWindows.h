@@ -24,28 +24,21 @@ class StatementWindows : public WindowTest {
   }
 
   /// Without compounding the interest of the days is the plain sum.
-  void ContinueWithoutCompounding() {
+  void ContinueUncompounded() {
     Choose("optICNone");
-    Continue();
-  }
-
-  void Continue() {
     Click("cmdNext");
     InFront<frmCallStatement>();
   }
 
-  /// Everything but period, balance and interest.
-  void EnterTerms(const char* disclosedApy, const char* rate, const char* method = "optADB") {
+  /// Everything but balance and interest.
+  void EnterTerms(const char* disclosedApy, const char* rate, const char* days,
+                  const char* method = "optADB") {
     Type("txtMinADB", "0");
     Type("txtMinDBal", "0");
     Type("txtDClApy", disclosedApy);
     if (IsEnabled("txtIntRate")) Type("txtIntRate", rate);
     if (IsEnabled(method)) Choose(method);
-  }
-
-  void EnterBalance(const char* average, const char* interest) {
-    Type("txtADBLedgerBalance", average);
-    Type("txtIntAmt", interest);
+    Type(IsEnabled("txtLedgerdays") ? "txtLedgerdays" : "txtColDays", days);
   }
 
   void Calculate() {
@@ -79,15 +72,26 @@ class StatementWindows : public WindowTest {
     }
   }
 
-  std::string ReportText(const char* file) const {
+  void ComputeDays(const char* compute, int count, const char* balance) {
+    Days(compute, [this, count, balance] {
+      TypeDays(count, balance);
+      Click("cmdContinue");
+    });
+  }
+
+  void CalculateRefused(const std::string& message, const char* field) {
+    ExpectText(message);
+    Click("cmdCalculate");
+    InFront<frmCallStatement>();
+    EXPECT_EQ(Focus(), field) << message;
+  }
+
+  /// How often a report holds a text.
+  int CountInReport(const char* file, const char* part) const {
     QFile report(QString::fromStdString(session.AppDataFolder) + "/" + file);
     EXPECT_TRUE(report.open(QIODevice::ReadOnly)) << file;
-    return report.readAll().toStdString();
+    return static_cast<int>(report.readAll().count(part));
   }
 };
-
-inline bool Holds(const std::string& text, const std::string& part) {
-  return text.find(part) != std::string::npos;
-}
 
 }  // namespace corvane
