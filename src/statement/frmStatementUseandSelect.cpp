@@ -149,6 +149,7 @@ void frmStatementUseandSelect::cmdNext_Click() {
     return;
   }
   TakeCompoundingDays();
+  Windows().Discard<frmAcctTieredAB>();
   Windows().Show<frmCallStatement>();
   hide();
 }
