@@ -58,7 +58,7 @@ TEST_F(TieredStatement, EveryDayEarnsByItsTiers) {
     EXPECT_EQ(Text("txtIntAmt"), c.interest);
     Calculate();
     EXPECT_EQ(session.ComputedApy, c.apy);
-    EXPECT_EQ(CountInReport("Periodic_Statement_Report.html", "variable"), 1);
+    EXPECT_EQ(CountInReport("Periodic_Statement_Report.html", "<TD>variable</TD>"), 1);
     EXPECT_TRUE(IsEnabled("cmdDetail"));
     Click("cmdAcct");
     InFront<frmStatementUseandSelect>();
