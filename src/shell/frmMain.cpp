@@ -95,9 +95,10 @@ void frmMain::Form_KeyDown(int key) {
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-  const auto* widget = qobject_cast<QWidget*>(watched);
-  if (event->type() == QEvent::KeyPress && widget && widget->window() == this) {
-    Form_KeyDown(static_cast<QKeyEvent*>(event)->key());
+  // The filter sees every event of the program, also those of the browser's own objects.
+  if (event->type() == QEvent::KeyPress) {
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget && widget->window() == this) Form_KeyDown(static_cast<QKeyEvent*>(event)->key());
   }
   return Form::eventFilter(watched, event);
 }

@@ -167,7 +167,6 @@ void frmCalendar::Close() {
 
 bool frmCalendar::eventFilter(QObject* watched, QEvent* event) {
   const bool onMonth = watched == ui_->picMonth;
-  const auto* mouse = static_cast<QMouseEvent*>(event);
   switch (event->type()) {
     case QEvent::Paint:
       if (!onMonth) break;
@@ -177,7 +176,7 @@ bool frmCalendar::eventFilter(QObject* watched, QEvent* event) {
       if (onMonth && picMonth_KeyDown(static_cast<QKeyEvent*>(event)->key())) return true;
       break;
     case QEvent::MouseButtonPress:
-      if (onMonth) {
+      if (const auto* mouse = static_cast<QMouseEvent*>(event); onMonth) {
         PressDay(mouse->position());
       } else if (mouse->button() == Qt::LeftButton) {
         LabelPressed(watched);

@@ -10,7 +10,7 @@ TEST_F(AccountSetupWindow, EachCompoundingOptionShowsItsGroups) {
   InFront<frmMain>();
   windows.Show<frmAcctAdvertAPY>();
   InFront<frmAcctAdvertAPY>();
-  const QString all =
+  const char* const all =
       "txtDailyCompounding lblDailyCompounding lblCompoundingNotes fraDaysInYear "
       "fraLeapYear fraRIWithdrawal fraAcctType";
   const struct {
@@ -18,9 +18,9 @@ TEST_F(AccountSetupWindow, EachCompoundingOptionShowsItsGroups) {
   } cases[] = {
       {nullptr, "", "", ""},
       {"optICNone", "fraDaysInYear fraLeapYear fraAcctType", "", ""},
-      {"optICDays", qPrintable(all),
+      {"optICDays", all,
        "Number Of Days Between Compounding       :", "( e.g., 1 = Daily Compounding )"},
-      {"optICMonths", qPrintable(all), "Number Of Months Between Compounding   :",
+      {"optICMonths", all, "Number Of Months Between Compounding   :",
        "( e.g., 1 = Monthly   3 = Quarterly   6 = Semi-Annually )"},
       {"optICYears", "txtDailyCompounding lblDailyCompounding lblCompoundingNotes fraAcctType",
        "Number Of Years Between Compounding      :", "( e.g.,  1 = 365 Days )"},
@@ -28,7 +28,7 @@ TEST_F(AccountSetupWindow, EachCompoundingOptionShowsItsGroups) {
   for (const auto& c : cases) {
     if (c.option) Choose(c.option);
     const auto shown = c.option ? c.option : "a fresh window";
-    for (const QString& group : all.split(' ')) {
+    for (const QString& group : QString(all).split(' ')) {
       EXPECT_EQ(IsShown(group), QString(c.groups).split(' ').contains(group))
           << shown << ", " << group.toStdString();
     }
