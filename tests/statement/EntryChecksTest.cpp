@@ -171,6 +171,8 @@ TEST(EntryChecks, AnEmptyDaysFieldIsTheCalendarsAndAnEmptyStartToday) {
   StorePeriodStart(session, entry);
   SetToday(std::nullopt);
   EXPECT_EQ(session.CurrentDay, SerialOf(*ParseDate("05-06-2025")));
+  EXPECT_EQ(Told(CheckStatementPeriod(session, entry, PeriodCaller::Calendar)), "")
+      << "typed days stay";
   entry.txtDateStart.text = "01-01-2024";
   EXPECT_TRUE(!DatesForCalendar(entry).start && DatesForCalendar(entry).end);
   entry.txtDateEnd.text = "01-31-2024";

@@ -6,6 +6,7 @@
 #include "statement/EntryExamples.h"
 #include "statement/InterestMethod.h"
 #include "statement/StatementCalculation.h"
+#include "statement/StatementReset.h"
 
 namespace corvane {
 namespace {
@@ -49,6 +50,7 @@ TEST_F(StatementCompute, WithBasis2TheLedgerLeavesTheCollectedInterestAlone) {
   ChooseLedgerEqualsCollected(session, entry, false);
   entry.txtLedgerdays.text = "30";
   EXPECT_EQ(Compute(Collected, "1000"), "1000.00 3.00");
+  EXPECT_EQ(session.LedgerDayRates.Last(), 0);
   EXPECT_EQ(Compute(Ledger, "2000"), "2000.00 3.00");
   EXPECT_NEAR(session.InterestAmount, 3, 1e-12);
   EXPECT_EQ(session.LedgerDayBalances.At(30), 2000);
@@ -84,6 +86,15 @@ TEST_F(StatementCompute, TheStoredDaysComeBackUntilLengthOrAccountChange) {
   session.DailyBalReset = true;
   EXPECT_EQ(reopened("30"), "") << "a new account starts empty";
   EXPECT_FALSE(session.DailyBalReset || session.DetailData);
+}
+
+TEST_F(StatementCompute, NothingOfAnAccountIsLeftForTheNext) {
+  Compute(Ledger, "1000");
+  ResetStatement(session);
+  EXPECT_FALSE(session.DetailData);
+  EXPECT_EQ(session.LedgerDayBalances.Last(), 0);
+  InitStatementEntry(session, entry, false);
+  EXPECT_EQ(entry.txtIntAmt.text + entry.txtLedgerdays.text + entry.txtMinADB.text, "");
 }
 
 TEST_F(StatementCompute, ASteppedAccountRefusesAMinimumAdbAlone) {
