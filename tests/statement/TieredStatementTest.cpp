@@ -82,6 +82,7 @@ TEST_F(TieredStatement, MainMenuOfTheTableLeavesNothingOfTheAccount) {
   TypeTable();
   Click("cmdExit");
   InFront<frmMain>();
+  EXPECT_EQ(windows.Find<frmStatementUseandSelect>(), nullptr);
   Click("cmdStatement");
   InFront<frmStatementUseandSelect>();
   OpenTable("optTierA");
