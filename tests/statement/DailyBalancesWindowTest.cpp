@@ -45,36 +45,28 @@ TEST_F(DailyBalancesWindow, TheInterestReportOf31DaysHas11Rows) {
   Type("txtDateEnd", "02012024");
   EnterTerms("6.58", "5", "0");
   Days("cmdComputeLADB", [this] {
-    EXPECT_EQ(Caption("lblDay(30)"), "Jan 31");
     Keys("1234.5");
     Type("txtDayBal(30)", "-99");
     ClickInto<frmInterestReport>("cmdPrint", [this] { CloseByFrame(); });
-    EXPECT_FALSE(windows.HasEnded());
     InFront<frmInterestbyDay>();
-    EXPECT_EQ(Text("txtDayBal(0)"), "1234.50");
     Click("cmdContinue");
   });
   EXPECT_EQ(CountInReport(kDays, "<TR align=center>"), 11);
-  for (const char* cell :
-       {">Jan 1<", ">$1,234.50<", ">Jan 12<", ">Jan 22<", ">Jan 31<", ">-$99.00<"}) {
+  for (const char* cell : {">Jan 1<", ">$1,234.50<", ">Jan 31<", ">-$99.00<"}) {
     EXPECT_EQ(CountInReport(kDays, cell), 1) << cell;
   }
 }
 
-/// Days of a period, and what the last page shows.
-struct Pages {
-  const char* days;
-  int pages, lastRow;
-  const char* lastDay;
-};
-
-constexpr Pages kPages[] = {
-    {"33", 1, 32, "Apr 16"}, {"34", 2, 0, "Apr 17"}, {"96", 3, 29, "Jun 18"}};
-
 TEST_F(DailyBalancesWindow, ThirtyThreeDaysStandOnAPage) {
+  struct Pages {
+    const char* days;
+    int pages, lastRow;
+    const char* lastDay;
+  };
   ContinueUncompounded();
   EnterTerms("6.58", "5", "1");
-  for (const Pages& row : kPages) {
+  for (const Pages& row :
+       {Pages{"33", 1, 32, "Apr 16"}, {"34", 2, 0, "Apr 17"}, {"96", 3, 29, "Jun 18"}}) {
     SCOPED_TRACE(row.days);
     Type("txtLedgerdays", row.days);
     Days("cmdComputeLADB", [this, &row] {
@@ -83,7 +75,6 @@ TEST_F(DailyBalancesWindow, ThirtyThreeDaysStandOnAPage) {
       EXPECT_FALSE(IsEnabled("cmdNext"));
       const QString last = QString::number(row.lastRow);
       EXPECT_EQ(Caption("lblDay(" + last + ")"), row.lastDay);
-      EXPECT_EQ(IsShown("txtDayBal(32)"), row.lastRow == 32);
       Type("txtDayBal(" + last + ")", "700");
       for (int page = row.pages; page > 1; --page) Click("cmdPrevious");
       EXPECT_EQ(Text("txtDayBal(0)"), "100.00");
@@ -122,31 +113,27 @@ TEST_F(DailyBalancesWindow, TheFrameCancelsAndOnlyThat) {
 /// ledger days at 1,000 and ten collected days at 800 that pay 0.1 % a day.
 struct Basis {
   const char *ledgerEqualsCollected, *ledgerAdb;
-  int code;
-  bool ledger, collectedDays, collectedAdb;
+  bool ledger, collected;
   const char* interest;
   double apy;
 };
 
 // 100 x ((1 + interest / average) ^ (365 / 10) - 1)
 constexpr Basis kBases[] = {
-    {"optLColl_Yes", "", 1, true, false, false, "10.00", 43.79},
-    {"optLColl_No", "", 2, true, false, true, "8.00", 33.75},
-    {"optLColl_No", "optLADBNo", 3, false, true, true, "8.00", 43.79},
+    {"optLColl_Yes", "", true, false, "10.00", 43.79},
+    {"optLColl_No", "", true, true, "8.00", 33.75},
+    {"optLColl_No", "optLADBNo", false, true, "8.00", 43.79},
 };
 
 TEST_F(DailyBalancesWindow, EachBasisTakesItsColumns) {
   ContinueUncompounded();
   for (const Basis& basis : kBases) {
-    SCOPED_TRACE(basis.code);
+    SCOPED_TRACE(std::string(basis.ledgerEqualsCollected) + " " + basis.ledgerAdb);
     Choose(basis.ledgerEqualsCollected);
     if (*basis.ledgerAdb) Choose(basis.ledgerAdb);
-    EXPECT_EQ(IsEnabled("txtLedgerdays"), basis.ledger);
-    EXPECT_EQ(IsEnabled("cmdComputeLADB"), basis.ledger);
-    EXPECT_EQ(IsEnabled("txtColDays"), basis.collectedDays);
-    EXPECT_EQ(IsEnabled("cmdComputeCADB"), basis.collectedAdb);
+    EXPECT_EQ(IsEnabled("txtColDays"), !basis.ledger);
     EnterTerms("43.79", "36.5", "10", "optDailyBal");
-    if (basis.collectedAdb) ComputeDays("cmdComputeCADB", 10, "800");
+    if (basis.collected) ComputeDays("cmdComputeCADB", 10, "800");
     if (basis.ledger) ComputeDays("cmdComputeLADB", 10, "1000");
     EXPECT_EQ(Text("txtIntAmt"), basis.interest);
     Calculate();

@@ -6,38 +6,30 @@
 namespace corvane {
 namespace {
 
-struct WorkedExample {
-  const char* source;
-  const char* compoundingPeriod;  ///< of the additional formula, empty without it
-  const char *average, *interest, *disclosed, *verdict;
-  double apy;
-};
-
-constexpr WorkedExample kExamples[] = {
-    {"Regulation DD, Appendix A, Part II.A", "", "1000", "5.25", "6.58", "OK", 6.58},
-    {"the same, disclosed 0.06 lower", "", "1000", "5.25", "6.52", "APY VIOLATION", 6.58},
-    {"100 x (1.00125 ^ (365 / 30) - 1)", "", "10000", "12.50", "1.53", "OK", 1.53},
-    {"Part II.B, 91 days", "91", "10000", "12.50", "1.53", "OK", 1.53},
-    {"100 x ((1 + 0.0125 / 30 x 91) ^ (365 / 91) - 1)", "91", "1000", "12.50", "16.10", "OK", 16.1},
-};
-
 TEST_F(StatementWindows, ComputesTheApyEarnedOfTypedFigures) {
-  for (const WorkedExample& example : kExamples) {
-    SCOPED_TRACE(example.source);
-    const bool additional = *example.compoundingPeriod != '\0';
+  struct Example {
+    const char *compoundingPeriod, *disclosed, *verdict;
+    double apy;
+  };
+  // $5.25 on $1,000 in 30 days: Regulation DD, Appendix A, Part II.A; with the formula of Part II.B
+  // 100 x ((1 + 0.00525 / 30 x 91) ^ (365 / 91) - 1) = 6.5423
+  for (const Example& example : {Example{"", "6.58", "OK", 6.58},
+                                 {"", "6.52", "APY VIOLATION", 6.58},
+                                 {"91", "6.54", "OK", 6.54}}) {
+    SCOPED_TRACE(std::string(example.disclosed) + " " + example.compoundingPeriod);
     Choose("optICNone");
-    if (additional) Choose("optFormulaYes");
-    if (additional) Type("txtDCPeriod", example.compoundingPeriod);
-    ContinueUncompounded();
-    EXPECT_EQ(IsEnabled("fraIntCalcMethod"), !additional);
+    if (*example.compoundingPeriod) {
+      Choose("optFormulaYes");
+      Type("txtDCPeriod", example.compoundingPeriod);
+    }
+    Click("cmdNext");
+    InFront<frmCallStatement>();
     EnterTerms(example.disclosed, "5", "30");
-    Type("txtADBLedgerBalance", example.average);
-    Type("txtIntAmt", example.interest);
+    Type("txtADBLedgerBalance", "1000");
+    Type("txtIntAmt", "5.25");
     Calculate();
     EXPECT_EQ(session.ComputedApy, example.apy);
-    EXPECT_EQ(session.ApyVerdict, example.verdict);
     EXPECT_GE(CountInReport("Periodic_Statement_Report.html", example.verdict), 1);
-    EXPECT_FALSE(IsEnabled("cmdDetail")) << "no days were typed";
     Click("cmdAcct");
     InFront<frmStatementUseandSelect>();
   }
@@ -57,7 +49,6 @@ TEST_F(StatementWindows, SavingAndBackKeepEverythingTyped) {
   Calculate();
   const QTemporaryDir folder;
   SetSaveAnswer([&folder](const SaveQuestion& question) {
-    EXPECT_EQ(question.title.toStdString(), "Save Statement APY Summary");
     EXPECT_EQ(question.fileName.toStdString(), "Statement_APY_Summary.htm");
     return folder.filePath("kept");
   });
@@ -71,10 +62,10 @@ TEST_F(StatementWindows, SavingAndBackKeepEverythingTyped) {
   ContinueUncompounded();
   std::string kept;
   for (const char* field : {"txtDateStart", "txtDateEnd", "txtMinADB", "txtDClApy", "txtIntRate",
-                            "txtDRFactor", "txtLedgerdays", "txtADBLedgerBalance", "txtIntAmt"}) {
+                            "txtLedgerdays", "txtADBLedgerBalance", "txtIntAmt"}) {
     kept += Text(field) + " ";
   }
-  EXPECT_EQ(kept, "01-01-2024 01-31-2024 0.00 6.58 6.3875 1/365 30 1000.00 5.25 ");
+  EXPECT_EQ(kept, "01-01-2024 01-31-2024 0.00 6.58 6.3875 30 1000.00 5.25 ");
   EXPECT_TRUE(Get<QRadioButton>("optDailyBal")->isChecked());
 }
 
@@ -84,9 +75,7 @@ TEST_F(StatementWindows, NothingOfAnAccountIsSeenInTheNext) {
   for (const auto& [button, fromResults] : waysOut) {
     SCOPED_TRACE(std::string(button) + (fromResults ? " of the results" : ""));
     const bool toMainMenu = std::string(button) == "cmdExit";
-    Type("txtName", "First Bank");
-    Type("txtDepositorName", "A. Smith");
-    Type("txtAcctNum", "0815");
+    for (const char* field : {"txtName", "txtDepositorName", "txtAcctNum"}) Type(field, "First");
     ContinueUncompounded();
     EnterTerms("6.58", "6.3875", "2");
     ComputeDays("cmdComputeLADB", 2, "1000");
@@ -98,7 +87,7 @@ TEST_F(StatementWindows, NothingOfAnAccountIsSeenInTheNext) {
       Click("cmdStatement");
     }
     InFront<frmStatementUseandSelect>();
-    EXPECT_EQ(Text("txtName"), toMainMenu ? "" : "First Bank");
+    EXPECT_EQ(Text("txtName"), toMainMenu ? "" : "First");
     EXPECT_EQ(Text("txtDepositorName") + Text("txtAcctNum"), "");
     EXPECT_EQ(session.LedgerDayBalances.Last(), 0);
     ContinueUncompounded();
@@ -119,7 +108,6 @@ TEST_F(StatementWindows, TheSetupRefusesAndShowsWhatACompoundingAsksFor) {
   EXPECT_EQ(Text("txtDCompounding"), "1");
   EXPECT_FALSE(IsShown("fraAPYFormula"));
   Choose("optICNone");
-  EXPECT_FALSE(IsEnabled("txtDCompounding"));
   Choose("optFormulaYes");
   Type("txtDCPeriod", "27");
   ExpectText("Compounding Period must be greater than 27 days");
@@ -135,45 +123,21 @@ TEST_F(StatementWindows, TheSetupRefusesAndShowsWhatACompoundingAsksFor) {
   EXPECT_EQ(Text("txtDRFactor"), "1/366");
 }
 
-/// What stands in a field of otherwise good entries, and what Calculate says to it.
-struct EntryRefusal {
-  const char *field, *text, *message;
-};
-
-constexpr EntryRefusal kEntryRefusals[] = {
-    {"txtMinADB", "", "Please enter a valid Minimum ADB amount or Zero"},
-    {"txtLedgerdays", "97", "The valid Ledger Days range is 1 to 96, inclusive"},
-    {"txtADBLedgerBalance", "0", "Please enter an ADB Ledger balance > 0 to continue"},
-    {"txtIntAmt", "", "Please enter a valid interest for ADB Method"},
-};
-
-constexpr const char* kMinimumsNotValid =
-    "Values entered for Minimum ADB and Minimum Daily Balance \n"
-    "        are not valid for the selected Statement Type and \n"
-    "                            Interest Calculation Method";
-
 TEST_F(StatementWindows, ARefusalPutsTheFocusOnItsFieldAndLosesNothing) {
   ContinueUncompounded();
   EnterTerms("1.53", "1.5", "30");
   Type("txtADBLedgerBalance", "10000");
   Type("txtIntAmt", "12.50");
-  for (const EntryRefusal& refusal : kEntryRefusals) {
-    const QString before = QString::fromStdString(Text(refusal.field));
-    Type(refusal.field, refusal.text);
-    CalculateRefused(refusal.message, refusal.field);
-    Type(refusal.field, before);
-  }
+  Type("txtLedgerdays", "97");
+  CalculateRefused("The valid Ledger Days range is 1 to 96, inclusive", "txtLedgerdays");
+  Type("txtLedgerdays", "30");
   Type("txtMinDBal", "50");
-  CalculateRefused(kMinimumsNotValid, "txtMinADB");
   Type("txtMinADB", "100");
-  ExpectText(kMinimumsNotValid);
+  ExpectText(
+      "Values entered for Minimum ADB and Minimum Daily Balance \n"
+      "        are not valid for the selected Statement Type and \n"
+      "                            Interest Calculation Method");
   Calculate();
-  Click("cmdBack");
-  InFront<frmCallStatement>();
-  Type("txtMinDBal", "0");
-  Choose("optDailyBal");
-  Calculate();
-  EXPECT_TRUE(session.UseAdb) << "the one minimum has chosen the method";
   CloseByFrame();
   EXPECT_TRUE(windows.HasEnded());
 }
