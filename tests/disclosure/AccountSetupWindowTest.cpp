@@ -6,17 +6,12 @@ namespace {
 class AccountSetupWindow : public DisclosureTest {};
 
 TEST_F(AccountSetupWindow, EachCompoundingOptionShowsItsGroups) {
-  Click("cmdExit");
-  InFront<frmMain>();
-  windows.Show<frmAcctAdvertAPY>();
-  InFront<frmAcctAdvertAPY>();
   const char* const all =
       "txtDailyCompounding lblDailyCompounding lblCompoundingNotes fraDaysInYear "
       "fraLeapYear fraRIWithdrawal fraAcctType";
   const struct {
     const char *option, *groups, *interval, *note;
   } cases[] = {
-      {nullptr, "", "", ""},
       {"optICNone", "fraDaysInYear fraLeapYear fraAcctType", "", ""},
       {"optICDays", all,
        "Number Of Days Between Compounding       :", "( e.g., 1 = Daily Compounding )"},
@@ -26,79 +21,60 @@ TEST_F(AccountSetupWindow, EachCompoundingOptionShowsItsGroups) {
        "Number Of Years Between Compounding      :", "( e.g.,  1 = 365 Days )"},
   };
   for (const auto& c : cases) {
-    if (c.option) Choose(c.option);
-    const auto shown = c.option ? c.option : "a fresh window";
+    SCOPED_TRACE(c.option);
+    Choose(c.option);
     for (const QString& group : QString(all).split(' ')) {
       EXPECT_EQ(IsShown(group), QString(c.groups).split(' ').contains(group))
-          << shown << ", " << group.toStdString();
+          << group.toStdString();
     }
+    EXPECT_TRUE(IsChosen("optRINotReq") && IsChosen("optDY365") && IsChosen("optLYNo"));
     if (!*c.interval) continue;
     EXPECT_EQ(Caption("lblDailyCompounding"), c.interval);
     EXPECT_EQ(Caption("lblCompoundingNotes"), c.note);
     EXPECT_EQ(Text("txtDailyCompounding"), "1");
-    EXPECT_TRUE(IsChosen("optRINotReq") && IsChosen("optDY365") && IsChosen("optLYNo")) << shown;
   }
 }
 
 TEST_F(AccountSetupWindow, OptionsChangeOneAnother) {
-  Choose("OptRIDays");
-  Choose("optDY366");
+  Enter("OptRIDays optDY366");
   EXPECT_TRUE(IsChosen("optLYYes"));
   Choose("optDY365");
   EXPECT_TRUE(IsChosen("optLYNo"));
   Choose("optICMonths");
   EXPECT_FALSE(IsEnabled("OptRIDays"));
   EXPECT_TRUE(IsChosen("optRINotReq"));
-  Choose("optRIMonths");
-  Choose("optICDays");
+  Enter("optRIMonths optICDays");
   EXPECT_TRUE(IsEnabled("OptRIDays") && IsChosen("optRIMonths")) << "a choice is kept";
-  Choose("optICNone");
-  Choose("optICDays");
+  Enter("optICNone optICDays");
   EXPECT_TRUE(IsChosen("optRINotReq"));
 }
 
-TEST_F(AccountSetupWindow, ContinueRefusesAndPutsTheFocusOnTheInterval) {
-  const struct {
-    const char *choices, *typed, *message;
-  } cases[] = {
-      {"optICDays", "32768", "Please enter a valid compounding interval."},
-      {"optICMonths", "5", "Months between compounding must be 1, 2, 3, 4, 6 or 12."},
-      {"optICDays optRIMonths", "2",
-       "Withdrawals measured in months need compounding every day or by months."},
-  };
-  for (const auto& c : cases) {
-    Describe(c.choices);
-    Type("txtDailyCompounding", c.typed);
-    ExpectText(c.message);
-    Click("cmdNext");
-    EXPECT_EQ(Focus(), "txtDailyCompounding") << c.message;
-    EXPECT_EQ(Get<QLineEdit>("txtDailyCompounding")->selectedText().toStdString(), c.typed);
-  }
+TEST_F(AccountSetupWindow, ContinueRefusesOrStoresWhatIsChosen) {
+  ClearOption(Get<QRadioButton>("optRegNoDisc"));
+  Expect({"Please select an Account Type.", kKeyEntryError, MessageIcon::None});
+  Click("cmdNext");
+  EXPECT_FALSE(session.CompoundDays) << "nothing is stored";
+  Enter("optRegNoDisc txtDailyCompounding=32768");
+  ExpectText("Please enter a valid compounding interval.");
+  Click("cmdNext");
+  EXPECT_EQ(Focus(), "txtDailyCompounding");
+  EXPECT_EQ(Get<QLineEdit>("txtDailyCompounding")->selectedText().toStdString(), "32768");
   Type("txtDailyCompounding", "a3.x5.-b");
   EXPECT_EQ(Text("txtDailyCompounding"), "3.5-");
-  Get<QRadioButton>("optRINotReq")->click();
-  Describe("optDY366 optLYNo");
+  Enter("optRIMonths optDY366 optLYNo");
   Expect({"Count 2/29 will be changed to Yes, No is not allowed for 366 days.", kKeyEntryError,
           MessageIcon::None});
   Continue();
   EXPECT_EQ(session.CompoundingDays, 0) << "the interval was no number";
   EXPECT_EQ(session.DaysInYear, 366);
-  EXPECT_TRUE(session.CountLeapDay);
-}
-
-TEST_F(AccountSetupWindow, NeedsAnAccountType) {
-  ClearOption(Get<QRadioButton>("optRegNoDisc"));
-  Expect({"Please select an Account Type.", kKeyEntryError, MessageIcon::None});
-  Click("cmdNext");
-  EXPECT_TRUE(IsVisible<frmAcctAdvertAPY>());
-  EXPECT_FALSE(session.CompoundDays) << "nothing is stored";
+  EXPECT_TRUE(session.CountLeapDay && session.ReqWdrwlMonths && session.CompoundDays);
 }
 
 TEST_F(AccountSetupWindow, TheHeaderIsStoredOnLeavingItsFieldsAndClearedByEachWay) {
   const auto header = [this] {
     return session.InstitutionName + "/" + session.AccountDescription + "/" + session.AccountHolder;
   };
-  Describe("txtName=Bank txtDepositInst=CD txtDepositorName=Holder");
+  Enter("txtName=Bank txtDepositInst=CD txtDepositorName=Holder");
   EXPECT_EQ(header(), "Bank/CD/");
   Click("cmdNewAcct");
   EXPECT_EQ(header(), "Bank//") << "New Account keeps the institution";
@@ -109,8 +85,7 @@ TEST_F(AccountSetupWindow, TheHeaderIsStoredOnLeavingItsFieldsAndClearedByEachWa
   AccessKey(Qt::Key_M);
   InFront<frmMain>();
   EXPECT_EQ(header(), "//");
-  Click("cmdAcctAdv");
-  InFront<frmAcctAdvertAPY>();
+  Start();
   EXPECT_EQ(Text("txtName") + Text("txtDepositorName"), "");
   EXPECT_TRUE(IsChosen("optICDays") && IsChosen("optRegNoDisc"));
 }

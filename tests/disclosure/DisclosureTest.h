@@ -19,41 +19,41 @@ class DisclosureTest : public WindowTest {
     Start();
   }
 
-  void Start() {
-    InFront<frmMain>();
-    Click("cmdAcctAdv");
-    InFront<frmAcctAdvertAPY>();
+  /// Clicks the button that leads to another window, in which the following acts are done.
+  template <class AForm>
+  void GoTo(const QString& button) {
+    Click(button);
+    InFront<AForm>();
   }
 
-  /// Chooses options of the setup window and types into its fields.
-  void Describe(const QString& choices) {
-    for (const QString& word : choices.split(' ', Qt::SkipEmptyParts)) {
+  void Start() {
+    InFront<frmMain>();
+    GoTo<frmAcctAdvertAPY>("cmdAcctAdv");
+  }
+
+  /// Chooses options of the window in front and types into its fields.
+  void Enter(const QString& entries) {
+    for (const QString& word : entries.split(' ', Qt::SkipEmptyParts)) {
       const QStringList parts = word.split('=');
       parts.size() > 1 ? Type(parts[0], parts[1]) : Choose(word);
     }
   }
 
   void Continue(const QString& choices = {}) {
-    Describe(choices);
-    Click("cmdNext");
-    InFront<frmAcctRegularStepped>();
+    Enter(choices);
+    GoTo<frmAcctRegularStepped>("cmdNext");
   }
 
-  void Enter(const QString& entries) { Describe(entries); }
+  void Calculate() { GoTo<frmDisplayResultsweb>("cmdCalculateResult"); }
 
   /// What the fields of the entries now show, in the same words.
-  QString Shown(const QString& entries) {
+  std::string Shown(const QString& entries) {
     QStringList shown;
     for (const QString& word : entries.split(' ')) {
       const QString field = word.section('=', 0, 0);
       shown += field + "=" + QString::fromStdString(Text(field));
     }
-    return shown.join(' ');
-  }
-
-  void Calculate() {
-    Click("cmdCalculateResult");
-    InFront<frmDisplayResultsweb>();
+    return shown.join(' ').toStdString();
   }
 
   std::string Report() {

@@ -19,11 +19,9 @@ class StatementReportFile : public testing::Test {
     session_.AccountDescription = "NOW <Account>";
     session_.AccountHolder = "J. M\xC3\xBCller";
     session_.AccountNumber = "\"123\"";
-    session_.AcctRegular = true;
-    session_.CompoundDays = true;
+    session_.AcctRegular = session_.CompoundDays = session_.UseAdb = true;
     session_.CompoundingDays = 1;
     session_.DaysInYear = 365;
-    session_.UseAdb = true;
     session_.ComputedApy = 6.58;
     session_.ApyVerdict = "OK";
     entry_ = {.txtDCompounding = " 1",
@@ -39,14 +37,11 @@ class StatementReportFile : public testing::Test {
   }
   void TearDown() override { SetToday(std::nullopt); }
 
-  /// Without compounding, by the daily balance, in a leap year, with the additional APY formula.
+  /// Without compounding, by the daily balance, in a leap year.
   void BecomeTierB() {
-    session_.AcctRegular = false;
-    session_.AcctTierB = true;
-    session_.CompoundDays = false;
-    session_.CompoundNone = true;
+    session_.AcctRegular = session_.CompoundDays = session_.UseAdb = false;
+    session_.AcctTierB = session_.CompoundNone = true;
     session_.CompoundingDays = 0;
-    session_.UseAdb = false;
     session_.DaysInYear = 366;
   }
 
@@ -55,10 +50,10 @@ class StatementReportFile : public testing::Test {
 };
 
 TEST_F(StatementReportFile, RegularByTheLedger) {
-  ExpectReport(SmallTemplate("statement_template.txt"), "statement_regular.html",
+  ExpectReport("statement_template.txt", "statement_regular.html",
                StatementReport(session_, entry_));
-  ExpectReport(ShippedTemplate(kStatementReport.templateName), "statement_shipped.html",
-               StatementReport(session_, entry_));
+  ExpectShippedReport(kStatementReport, "statement_shipped.html",
+                      StatementReport(session_, entry_));
 }
 
 TEST_F(StatementReportFile, TieredByTheCollectedBalance) {
@@ -71,21 +66,20 @@ TEST_F(StatementReportFile, TieredByTheCollectedBalance) {
   entry_.txtADBLedgerBalance = "";
   entry_.txtColDays = "31";
   entry_.txtADBCollectedBalance = "-12.5";
-  ExpectReport(SmallTemplate("statement_template.txt"), "statement_tiered.html",
+  ExpectReport("statement_template.txt", "statement_tiered.html",
                StatementReport(session_, entry_));
 }
 
 TEST_F(StatementReportFile, EveryAccountTypeButRegularHasAVariableRate) {
-  const auto rateOf = [](SessionRecord session, Flag SessionRecord::*type) {
-    session.AcctRegular = false;
+  session_.AcctRegular = false;
+  for (const auto& [type, heading] : {std::pair{&SessionRecord::AcctStepped, "STEPPED RATE"},
+                                      std::pair{&SessionRecord::AcctTierA, "TIERING Method A"}}) {
+    SessionRecord session = session_;
     session.*type = true;
     const auto text = BuildReport({"^Rpt_Type^", "^datarow^"}, StatementReport(session, {})).text;
-    return text.substr(0, text.find("</TD>"));
-  };
-  EXPECT_EQ(rateOf(session_, &SessionRecord::AcctStepped),
-            "STEPPED RATE<TR align=center><TD>variable");
-  EXPECT_EQ(rateOf(session_, &SessionRecord::AcctTierA),
-            "TIERING Method A<TR align=center><TD>variable");
+    EXPECT_EQ(text.substr(0, text.find("</TD>")),
+              heading + std::string("<TR align=center><TD>variable"));
+  }
 }
 
 TEST_F(StatementReportFile, InterestByDayOfTheCollectedBalance) {
@@ -100,7 +94,7 @@ TEST_F(StatementReportFile, InterestByDayOfTheCollectedBalance) {
     session_.CollectedDayBalances.Set(++day, balance);
     session_.CollectedDayRates.Set(day, rate);
   }
-  ExpectReport(SmallTemplate("interest_template.txt"), "interest_collected.html",
+  ExpectReport("interest_template.txt", "interest_collected.html",
                InterestReport(session_, {true}));
 }
 
@@ -114,17 +108,13 @@ TEST_F(StatementReportFile, InterestByDayOfTheLedgerOverAMonth) {
     session_.LedgerDayBalances.Set(day, 1000 + day);
     session_.LedgerDayRates.Set(day, day <= 20 ? 5.25 : 5.5);
   }
-  ExpectReport(ShippedTemplate(kInterestReport.templateName), "interest_shipped.html",
-               InterestReport(session_, {}));
+  ExpectShippedReport(kInterestReport, "interest_shipped.html", InterestReport(session_, {}));
 }
 
 TEST(InterestReportColumns, EveryDayStandsOnceInThreeColumns) {
   const struct {
-    int days;
-    int firstEnds, secondEnds;
-  } cases[] = {{0, 0, 0},    {1, 1, 1},    {2, 1, 2},    {3, 1, 2},    {4, 2, 3},
-               {5, 2, 4},    {30, 10, 20}, {31, 11, 21}, {32, 11, 22}, {33, 11, 22},
-               {34, 12, 23}, {95, 32, 64}, {96, 32, 64}};
+    int days, firstEnds, secondEnds;
+  } cases[] = {{0, 0, 0}, {1, 1, 1}, {2, 1, 2}, {31, 11, 21}, {32, 11, 22}, {96, 32, 64}};
   for (const auto& c : cases) {
     const auto columns = SplitDays(c.days);
     EXPECT_EQ(columns[0].first, 1) << c.days;

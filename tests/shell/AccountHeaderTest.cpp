@@ -8,24 +8,19 @@ namespace corvane {
 namespace {
 
 TEST(AccountHeader, EachModeStoresOrClearsItsOwnTexts) {
-  const struct {
-    HeaderMode mode;
-    const char *institution, *description, *holder, *number;
-  } cases[] = {
-      {HeaderMode::DisclosureSetup, "Bank", "Savings", "A. Holder", "old 4"},
-      {HeaderMode::StatementSetup, "Bank", "Savings", "A. Holder", "77"},
-      {HeaderMode::ClearAll, "", "", "", ""},
-      {HeaderMode::KeepInstitution, "old 1", "", "", ""},
+  const std::pair<HeaderMode, const char*> cases[] = {
+      {HeaderMode::DisclosureSetup, "Bank/Savings/A. Holder/old 4"},
+      {HeaderMode::StatementSetup, "Bank/Savings/A. Holder/77"},
+      {HeaderMode::ClearAll, "///"},
+      {HeaderMode::KeepInstitution, "old 1///"},
   };
-  for (const auto& c : cases) {
+  for (const auto& [mode, expected] : cases) {
     SessionRecord session;
     CaptureUserInfo(session, HeaderMode::StatementSetup, {"old 1", "old 2", "old 3", "old 4"});
-    CaptureUserInfo(session, c.mode, {"Bank", "Savings", "A. Holder", "77"});
-    const int mode = static_cast<int>(c.mode);
-    EXPECT_EQ(session.InstitutionName, c.institution) << mode;
-    EXPECT_EQ(session.AccountDescription, c.description) << mode;
-    EXPECT_EQ(session.AccountHolder, c.holder) << mode;
-    EXPECT_EQ(session.AccountNumber, c.number) << mode;
+    CaptureUserInfo(session, mode, {"Bank", "Savings", "A. Holder", "77"});
+    EXPECT_EQ(session.InstitutionName + "/" + session.AccountDescription + "/" +
+                  session.AccountHolder + "/" + session.AccountNumber,
+              expected);
   }
 }
 

@@ -1,5 +1,4 @@
 #include "WindowTest.h"
-#include "disclosure/frmAcctAdvertAPY.h"
 #include "platform/ProgramFolder.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
@@ -8,10 +7,17 @@
 namespace corvane {
 namespace {
 
-class Navigation : public WindowTest {};
+class Navigation : public WindowTest {
+ protected:
+  template <class AForm>
+  void Open() {
+    windows.Show<AForm>();
+    InFront<AForm>();
+  }
+};
 
 TEST_F(Navigation, TheDisclaimerLeadsToTheMainMenuAndTheFrameEndsTheProgram) {
-  windows.Show<frmSplash>();
+  Open<frmSplash>();
   EXPECT_EQ(InFront<frmSplash>().windowTitle().toStdString(), " Annual Percentage Yield");
   Click("cmdOK");
   InFront<frmMain>();
@@ -24,8 +30,7 @@ TEST_F(Navigation, TheDisclaimerLeadsToTheMainMenuAndTheFrameEndsTheProgram) {
 }
 
 TEST_F(Navigation, EscapeOnTheMainMenuEndsTheProcessAtOnce) {
-  windows.Show<frmMain>();
-  InFront<frmMain>();
+  Open<frmMain>();
   session.InstitutionName = "First Bank";
   Key(Qt::Key_Tab);
   EXPECT_FALSE(windows.HasEnded());
@@ -34,22 +39,8 @@ TEST_F(Navigation, EscapeOnTheMainMenuEndsTheProcessAtOnce) {
   EXPECT_EQ(session.InstitutionName, "First Bank") << "the orderly way out would have cleared it";
 }
 
-TEST_F(Navigation, TheFrameOfTheAboutWindowClosesOnlyIt) {
-  windows.Show<frmSplash>();
-  InFront<frmSplash>();
-  Click("cmdAbout");
-  EXPECT_EQ(InFront<frmAbout>().windowTitle().toStdString(), "About Corvane Calculator");
-  EXPECT_EQ(Caption("lblVersion"), "Version 2.1.18");
-  CloseByFrame();
-  EXPECT_FALSE(windows.HasEnded());
-  InFront<frmSplash>();
-  CloseByFrame();
-  EXPECT_TRUE(windows.HasEnded());
-}
-
 TEST_F(Navigation, ExitOfTheDisclaimerEndsTheProcessWhateverElseIsOpen) {
-  windows.Show<frmSplash>();
-  InFront<frmSplash>();
+  Open<frmSplash>();
   session.InstitutionName = "First Bank";
   Click("cmdAbout");
   InFront<frmAbout>();
@@ -57,18 +48,16 @@ TEST_F(Navigation, ExitOfTheDisclaimerEndsTheProcessWhateverElseIsOpen) {
     InFront<frmSplash>();
     Click("cmdExit");
   });
-  QTimer watchdog;
-  QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(1); });
-  watchdog.start(5000);
+  QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
   EXPECT_EQ(QApplication::exec(), 0) << "the process goes on";
   EXPECT_EQ(session.InstitutionName, "First Bank") << "no window was closed as by its frame";
 }
 
-TEST_F(Navigation, AboutIsModalOverTheMainMenuAlsoWhenItWasLeftOpen) {
-  windows.Show<frmSplash>();
-  InFront<frmSplash>();
+TEST_F(Navigation, AboutIsModalOverTheMainMenuAlsoWhenItWasLeftOpenAndItsFrameClosesOnlyIt) {
+  Open<frmSplash>();
   Click("cmdAbout");
-  InFront<frmAbout>();
+  EXPECT_EQ(InFront<frmAbout>().windowTitle().toStdString(), "About Corvane Calculator");
+  EXPECT_EQ(Caption("lblVersion"), "Version 2.1.18");
   InFront<frmSplash>();
   Click("cmdOK");
   InFront<frmMain>();
@@ -77,36 +66,30 @@ TEST_F(Navigation, AboutIsModalOverTheMainMenuAlsoWhenItWasLeftOpen) {
     Expect({"System Information Is Unavailable At This Time", "Corvane Calculator",
             MessageIcon::None});
     Click("cmdSysInfo");
-    Click("cmdOK");
+    CloseByFrame();
   });
   Menu("mnuHelp", "mnuAbout");
   EXPECT_FALSE(IsVisible<frmAbout>());
   EXPECT_FALSE(windows.HasEnded());
   InFront<frmMain>();
-  Menu("mnuFile", "mnuExit");
+  CloseByFrame();
   EXPECT_TRUE(windows.HasEnded());
 }
 
 TEST_F(Navigation, TheTitleScreenOptionIsKeptInTheSettingsFile) {
   QFile settings(QString::fromStdString(PathText(SettingsFile())));
   settings.remove();
-  const auto content = [&settings] {
-    if (!settings.open(QIODevice::ReadOnly)) return QByteArray();
-    const QByteArray all = settings.readAll();
-    settings.close();
-    return all;
-  };
-  windows.Show<frmMain>();
-  InFront<frmMain>();
+  Open<frmMain>();
   for (const bool checked : {true, false, true}) {
     Menu("mnuOptions", "mnuShowTitle");
     EXPECT_EQ(Get<QAction>("mnuShowTitle")->isChecked(), checked);
-    EXPECT_EQ(content(),
+    ASSERT_TRUE(settings.open(QIODevice::ReadOnly));
+    EXPECT_EQ(settings.readAll().toStdString(),
               checked ? "[Options]\r\nStartup Intro=Yes\r\n" : "[Options]\r\nStartup Intro=No\r\n");
+    settings.close();
   }
   windows.Discard<frmMain>();
-  windows.Show<frmMain>();
-  InFront<frmMain>();
+  Open<frmMain>();
   EXPECT_TRUE(Get<QAction>("mnuShowTitle")->isChecked());
   settings.remove();
 }

@@ -10,48 +10,35 @@ namespace {
 TEST(CalendarMonth, EveryDayStandsInItsCellAndNothingElseDoes) {
   const struct {
     const char* month;
-    int offset, days, rows;
-  } cases[] = {
-      {"03-15-2026", 0, 31, 5},  // starts on a Sunday
-      {"08-01-2026", 6, 31, 6},  // starts on a Saturday: the last two days fall in the sixth row
-      {"02-10-2015", 0, 28, 4}, {"02-29-2024", 4, 29, 5}, {"02-01-1901", 5, 28, 5},
-  };
+    int firstCell, days;               // cells count row by row from 0
+  } cases[] = {{"03-15-2026", 0, 31},  // starts on a Sunday
+               {"08-01-2026", 6, 31},  // starts on a Saturday, ends in the sixth row
+               {"02-10-2015", 0, 28},
+               {"02-29-2024", 4, 29}};
   for (const auto& c : cases) {
     const Date month = *ParseDate(c.month);
-    EXPECT_EQ(MonthOffset(month), c.offset) << c.month;
-    EXPECT_EQ(DaysOfMonth(month), c.days) << c.month;
-    int found = 0;
-    for (int row = 0; row < 7; ++row) {
-      for (int column = -1; column < 8; ++column) {
-        const auto day = DayInCell(month, {column, row});
-        if (!day) continue;
-        EXPECT_EQ(static_cast<unsigned>(day->day()), static_cast<unsigned>(++found)) << c.month;
-        EXPECT_EQ(CellOf(*day).column, column) << c.month;
-        EXPECT_EQ(CellOf(*day).row, row) << c.month;
-        EXPECT_LT(row, c.rows) << c.month;
-      }
+    for (int cell = 0; cell < 49; ++cell) {
+      const int number = cell - c.firstCell + 1;
+      const auto day = DayInCell(month, {cell % 7, cell / 7});
+      ASSERT_EQ(day.has_value(), number >= 1 && number <= c.days) << c.month << ", cell " << cell;
+      if (!day) continue;
+      EXPECT_EQ(static_cast<unsigned>(day->day()), static_cast<unsigned>(number)) << c.month;
+      EXPECT_EQ(CellOf(*day).row * 7 + CellOf(*day).column, cell) << c.month;
     }
-    EXPECT_EQ(found, c.days) << c.month;
+    for (int beside : {-1, 7}) EXPECT_FALSE(DayInCell(month, {beside, 2})) << c.month;
   }
 }
 
 TEST(FormCenter, MeasuresFromTheScreensCornerUnlessTheWindowDoesNotFit) {
+  const Extent area{1024, 738};
   const struct {
-    Extent area;
-    Position corner;
     Extent window;
-    Position expected;
-  } cases[] = {
-      {{19200, 11520}, {0, 0}, {6000, 4000}, {6600, 3760}},
-      {{1024, 738}, {0, 30}, {520, 440}, {252, 149}},  // a bar docked at the top
-      {{1024, 738}, {0, 30}, {1024, 738}, {0, 0}},
-      {{1024, 738}, {0, 30}, {1025, 400}, {0, 30}},
-      {{1024, 738}, {40, 0}, {600, 739}, {40, 0}},
-  };
+    int left, top;
+  } cases[] = {{{520, 440}, 252, 149}, {area, 0, 0}, {{1025, 400}, 40, 30}, {{600, 739}, 40, 30}};
   for (const auto& c : cases) {
-    const Position place = CenterPosition(c.area, c.corner, c.window);
-    EXPECT_EQ(place.left, c.expected.left) << c.window.width << " on " << c.area.width;
-    EXPECT_EQ(place.top, c.expected.top) << c.window.height << " on " << c.area.height;
+    const Position place = CenterPosition(area, {40, 30}, c.window);
+    EXPECT_EQ(place.left, c.left) << c.window.width << " x " << c.window.height;
+    EXPECT_EQ(place.top, c.top) << c.window.width << " x " << c.window.height;
   }
 }
 
