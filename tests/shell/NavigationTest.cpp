@@ -25,8 +25,10 @@ TEST_F(Navigation, TheDisclaimerLeadsToTheMainMenuAndTheFrameEndsTheProgram) {
   EXPECT_EQ(session.RoundingDigits, 15);
   EXPECT_TRUE(QDir(QString::fromStdString(session.AppDataFolder)).exists());
   EXPECT_FALSE(windows.HasEnded());
+  session.InstitutionName = "First Bank";
   CloseByFrame();
   EXPECT_TRUE(windows.HasEnded());
+  EXPECT_EQ(session.InstitutionName, "") << "the orderly way out clears the identification";
 }
 
 TEST_F(Navigation, EscapeOnTheMainMenuEndsTheProcessAtOnce) {
