@@ -164,5 +164,15 @@ TEST_F(DailyBalancesWindow, ASteppedAccountsRatesAreTypedByDay) {
   EXPECT_EQ(Text("txtIntAmt"), "0.40") << "2,000 x 0.0001 + 1,000 x 0.0002";
 }
 
+TEST_F(DailyBalancesWindow, DailyCompoundingReachesTheInterest) {
+  // 36.5 % a year is 0.1 % a day: 1,000,000 x (1.001 ^ 30 - 1); without compounding it were 30,000.
+  Click("cmdNext");
+  InFront<frmCallStatement>();
+  EnterTerms("44.02", "36.5", "optDailyBal");
+  Type("txtLedgerdays", "30");
+  ComputeDays("cmdComputeLADB", 30, "1000000");
+  EXPECT_EQ(Text("txtIntAmt"), "30439.09");
+}
+
 }  // namespace
 }  // namespace corvane
