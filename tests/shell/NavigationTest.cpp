@@ -31,6 +31,12 @@ TEST_F(Navigation, TheDisclaimerLeadsToTheMainMenuAndTheFrameEndsTheProgram) {
   EXPECT_EQ(session.InstitutionName, "") << "the orderly way out clears the identification";
 }
 
+TEST_F(Navigation, TheFrameOfTheFirstWindowEndsTheProgram) {
+  Open<frmSplash>();
+  CloseByFrame();
+  EXPECT_TRUE(windows.HasEnded());
+}
+
 TEST_F(Navigation, EscapeOnTheMainMenuEndsTheProcessAtOnce) {
   Open<frmMain>();
   session.InstitutionName = "First Bank";
@@ -50,7 +56,9 @@ TEST_F(Navigation, ExitOfTheDisclaimerEndsTheProcessWhateverElseIsOpen) {
     InFront<frmSplash>();
     Click("cmdExit");
   });
-  QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
+  QTimer watchdog;
+  QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+  watchdog.start(5000);
   EXPECT_EQ(QApplication::exec(), 0) << "the process goes on";
   EXPECT_EQ(session.InstitutionName, "First Bank") << "no window was closed as by its frame";
 }
