@@ -8,12 +8,12 @@
 #include <memory>
 #include <stdexcept>
 
+#include "account/SessionRecord.h"
+#include "formulas/InterestByDay.h"
 #include "formulas/RegularApy.h"
 #include "reports/DisclosureReport.h"
 #include "reports/InterestReport.h"
 #include "reports/StatementReport.h"
-#include "shell/SessionRecord.h"
-#include "statement/InterestByDay.h"
 
 namespace corvane {
 

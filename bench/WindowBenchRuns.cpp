@@ -7,17 +7,17 @@
 #include <chrono>
 #include <cstdio>
 
-#include "disclosure/frmAcctAdvertAPY.h"
-#include "disclosure/frmAcctRegularStepped.h"
-#include "disclosure/frmDisplayResultsweb.h"
+#include "account/SessionRecord.h"
 #include "platform/Pictures.h"
 #include "platform/ProgramFolder.h"
 #include "platform/WebView.h"
 #include "reports/DisclosureReport.h"
-#include "shell/SessionRecord.h"
-#include "shell/WindowRegistry.h"
-#include "shell/frmMain.h"
-#include "shell/frmSplash.h"
+#include "windows/disclosure/DisclosureEntryWindow.h"
+#include "windows/disclosure/DisclosureResultsWindow.h"
+#include "windows/disclosure/DisclosureSetupWindow.h"
+#include "windows/frame/WindowRegistry.h"
+#include "windows/start/DisclaimerWindow.h"
+#include "windows/start/MainMenu.h"
 
 namespace corvane {
 
@@ -63,7 +63,7 @@ int ShowFirstWindow(int argc, char** argv) {
   application.installEventFilter(&watch);
   SessionRecord session;
   WindowRegistry windows(session);
-  windows.Show<frmSplash>();
+  windows.Show<DisclaimerWindow>();
   return QApplication::exec();
 }
 
@@ -87,9 +87,9 @@ void Fill(Form* form, const char* field, const char* text) {
 
 /// From the main menu to the filled entry window.
 void EnterAccount(WindowRegistry& windows) {
-  Press(&windows.Show<frmMain>(), "cmdAcctAdv");
-  Press(windows.Find<frmAcctAdvertAPY>(), "cmdNext");
-  auto* entry = windows.Find<frmAcctRegularStepped>();
+  Press(&windows.Show<MainMenu>(), "cmdAcctAdv");
+  Press(windows.Find<DisclosureSetupWindow>(), "cmdNext");
+  auto* entry = windows.Find<DisclosureEntryWindow>();
   Fill(entry, "txtDiscAPY", "5.39");
   Fill(entry, "txtBal", "1000.00");
   Fill(entry, "txtIntRateA", "5.25");
@@ -98,8 +98,8 @@ void EnterAccount(WindowRegistry& windows) {
 
 void TimeCalculate(WindowRegistry& windows) {
   const auto start = Now();
-  Press(windows.Find<frmAcctRegularStepped>(), "cmdCalculateResult");
-  const auto* view = windows.Get<frmDisplayResultsweb>().findChild<WebView*>("WebView");
+  Press(windows.Find<DisclosureEntryWindow>(), "cmdCalculateResult");
+  const auto* view = windows.Get<DisclosureResultsWindow>().findChild<WebView*>("WebView");
   QObject::connect(view, &WebView::Shown, view, [start](bool success) {
     if (success) Finish(start);
   });

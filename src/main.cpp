@@ -1,10 +1,10 @@
 #include <QApplication>
 
+#include "account/SessionRecord.h"
 #include "platform/Pictures.h"
 #include "platform/WebView.h"
-#include "shell/SessionRecord.h"
-#include "shell/WindowRegistry.h"
-#include "shell/frmSplash.h"
+#include "windows/frame/WindowRegistry.h"
+#include "windows/start/DisclaimerWindow.h"
 
 int main(int argc, char** argv) {
   corvane::PrepareWebView();
@@ -15,6 +15,6 @@ int main(int argc, char** argv) {
 
   corvane::SessionRecord session;
   corvane::WindowRegistry windows(session);
-  windows.Show<corvane::frmSplash>();
+  windows.Show<corvane::DisclaimerWindow>();
   return QApplication::exec();
 }

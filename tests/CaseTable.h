@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {

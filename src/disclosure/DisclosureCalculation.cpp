@@ -1,12 +1,12 @@
 #include "disclosure/DisclosureCalculation.h"
 
+#include "account/SessionRecord.h"
 #include "disclosure/EntryChecks.h"
 #include "disclosure/EntrySequence.h"
 #include "disclosure/PeriodStore.h"
 #include "disclosure/SteppedCalculation.h"
 #include "disclosure/TieredCalculation.h"
 #include "formulas/RegularApy.h"
-#include "shell/SessionRecord.h"
 
 namespace corvane {
 

@@ -2,12 +2,12 @@
 
 #include <cmath>
 
+#include "account/SessionRecord.h"
 #include "disclosure/EntrySequence.h"
 #include "disclosure/EntryTerm.h"
 #include "formulas/DailyRateFactor.h"
 #include "formulas/RoundValue.h"
 #include "formulas/TermCounting.h"
-#include "shell/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {

@@ -2,8 +2,8 @@
 
 #include <optional>
 
+#include "account/Refusal.h"
 #include "disclosure/DisclosureEntry.h"
-#include "support/Refusal.h"
 
 namespace corvane {
 

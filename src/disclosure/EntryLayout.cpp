@@ -1,8 +1,8 @@
 #include "disclosure/EntryLayout.h"
 
+#include "account/SessionRecord.h"
 #include "disclosure/EntrySequence.h"
 #include "disclosure/EntryTerm.h"
-#include "shell/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {

@@ -1,9 +1,9 @@
 #include "disclosure/EntrySequence.h"
 
+#include "account/SessionRecord.h"
 #include "disclosure/EntryLayout.h"
 #include "disclosure/EntryTerm.h"
 #include "disclosure/PeriodStore.h"
-#include "shell/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "account/SessionRecord.h"
 #include "formulas/TermCounting.h"
-#include "shell/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {

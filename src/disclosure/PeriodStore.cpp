@@ -1,7 +1,7 @@
 #include "disclosure/PeriodStore.h"
 
+#include "account/SessionRecord.h"
 #include "formulas/DailyRateFactor.h"
-#include "shell/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {

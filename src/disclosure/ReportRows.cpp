@@ -1,6 +1,6 @@
 #include "disclosure/ReportRows.h"
 
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {

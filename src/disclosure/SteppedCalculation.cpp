@@ -1,11 +1,11 @@
 #include "disclosure/SteppedCalculation.h"
 
+#include "account/SessionRecord.h"
 #include "disclosure/EntrySequence.h"
 #include "disclosure/PeriodStore.h"
 #include "disclosure/ReportRows.h"
 #include "formulas/RoundValue.h"
 #include "formulas/SteppedApy.h"
-#include "shell/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {

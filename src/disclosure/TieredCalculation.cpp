@@ -1,10 +1,10 @@
 #include "disclosure/TieredCalculation.h"
 
+#include "account/SessionRecord.h"
 #include "disclosure/EntrySequence.h"
 #include "disclosure/PeriodStore.h"
 #include "disclosure/ReportRows.h"
 #include "formulas/RegularApy.h"
-#include "shell/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {

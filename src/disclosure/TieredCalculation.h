@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "support/Refusal.h"
+#include "account/Refusal.h"
 
 namespace corvane {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
 
 namespace corvane {
 

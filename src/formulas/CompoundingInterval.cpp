@@ -1,6 +1,6 @@
 #include "formulas/CompoundingInterval.h"
 
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
 
 namespace corvane {
 

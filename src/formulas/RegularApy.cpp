@@ -2,14 +2,14 @@
 
 #include <cmath>
 
+#include "account/FormulaRefusals.h"
+#include "account/SessionRecord.h"
 #include "formulas/AnnualYield.h"
 #include "formulas/CheckApy.h"
 #include "formulas/CompoundingInterval.h"
 #include "formulas/DailyRateFactor.h"
-#include "formulas/FormulaRefusals.h"
 #include "formulas/RoundValue.h"
 #include "formulas/TermInterest.h"
-#include "shell/SessionRecord.h"
 
 namespace corvane {
 

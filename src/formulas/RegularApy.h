@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "support/Refusal.h"
+#include "account/Refusal.h"
 
 namespace corvane {
 

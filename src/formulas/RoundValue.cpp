@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
 
 namespace corvane {
 

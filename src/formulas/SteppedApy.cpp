@@ -2,12 +2,12 @@
 
 #include <cmath>
 
+#include "account/FormulaRefusals.h"
+#include "account/SessionRecord.h"
 #include "formulas/AnnualYield.h"
 #include "formulas/CheckApy.h"
 #include "formulas/CompoundingInterval.h"
-#include "formulas/FormulaRefusals.h"
 #include "formulas/RoundValue.h"
-#include "shell/SessionRecord.h"
 
 namespace corvane {
 

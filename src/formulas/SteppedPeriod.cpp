@@ -2,13 +2,13 @@
 
 #include <cmath>
 
+#include "account/FormulaRefusals.h"
+#include "account/SessionRecord.h"
 #include "formulas/CompoundingInterval.h"
 #include "formulas/DailyRateFactor.h"
-#include "formulas/FormulaRefusals.h"
 #include "formulas/RoundValue.h"
 #include "formulas/StepCount.h"
 #include "formulas/TermInterest.h"
-#include "shell/SessionRecord.h"
 
 namespace corvane {
 

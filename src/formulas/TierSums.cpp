@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "account/FormulaRefusals.h"
+#include "account/SessionRecord.h"
 #include "formulas/DailyRateFactor.h"
-#include "formulas/FormulaRefusals.h"
 #include "formulas/TermInterest.h"
-#include "shell/SessionRecord.h"
 
 namespace corvane {
 

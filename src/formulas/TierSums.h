@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <optional>
 
+#include "account/Refusal.h"
 #include "formulas/ApyFromInterest.h"
 #include "formulas/RateSchedule.h"
-#include "support/Refusal.h"
 
 namespace corvane {
 

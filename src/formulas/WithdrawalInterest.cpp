@@ -1,13 +1,13 @@
 #include "formulas/WithdrawalInterest.h"
 
+#include "account/FormulaRefusals.h"
+#include "account/SessionRecord.h"
 #include "formulas/AnnualYield.h"
 #include "formulas/CompoundingInterval.h"
 #include "formulas/DailyRateFactor.h"
-#include "formulas/FormulaRefusals.h"
 #include "formulas/RoundValue.h"
 #include "formulas/StepCount.h"
 #include "formulas/TermCounting.h"
-#include "shell/SessionRecord.h"
 
 namespace corvane {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "support/Refusal.h"
+#include "account/Refusal.h"
 
 namespace corvane {
 

@@ -5,7 +5,7 @@
 
 #include "platform/MessageBox.h"
 #include "platform/ProgramFolder.h"
-#include "shell/ProgramTitle.h"
+#include "support/ProgramTitle.h"
 
 namespace corvane {
 

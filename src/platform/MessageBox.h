@@ -4,7 +4,7 @@
 
 #include <QMessageBox>
 
-#include "support/Refusal.h"
+#include "account/Refusal.h"
 
 namespace corvane {
 

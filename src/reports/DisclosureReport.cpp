@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "account/SessionRecord.h"
 #include "reports/HtmlText.h"
 #include "reports/ReportTags.h"
-#include "shell/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {

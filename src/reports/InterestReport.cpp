@@ -1,8 +1,8 @@
 #include "reports/InterestReport.h"
 
+#include "account/SessionRecord.h"
 #include "reports/HtmlText.h"
 #include "reports/ReportTags.h"
-#include "shell/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {

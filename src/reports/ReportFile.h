@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "account/Refusal.h"
 #include "reports/TemplateEngine.h"
-#include "support/Refusal.h"
 
 namespace corvane {
 

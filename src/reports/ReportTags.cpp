@@ -1,8 +1,8 @@
 #include "reports/ReportTags.h"
 
-#include "platform/Clock.h"
+#include "account/SessionRecord.h"
 #include "reports/HtmlText.h"
-#include "shell/SessionRecord.h"
+#include "support/Clock.h"
 #include "support/NumberText.h"
 
 namespace corvane {

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "support/Refusal.h"
+#include "account/Refusal.h"
 
 namespace corvane {
 

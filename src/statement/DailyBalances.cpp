@@ -1,8 +1,8 @@
 #include "statement/DailyBalances.h"
 
-#include "shell/SessionRecord.h"
-#include "statement/AverageDailyBalance.h"
-#include "statement/DayRate.h"
+#include "account/SessionRecord.h"
+#include "formulas/AverageDailyBalance.h"
+#include "formulas/DayRate.h"
 #include "statement/StatementReset.h"
 
 namespace corvane {

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "account/Refusal.h"
 #include "statement/BalanceBasis.h"
 #include "statement/StatementAccount.h"
-#include "support/Refusal.h"
 
 namespace corvane {
 

@@ -2,9 +2,9 @@
 
 #include <cmath>
 
-#include "formulas/FormulaRefusals.h"
-#include "shell/SessionRecord.h"
-#include "statement/InterestByDay.h"
+#include "account/FormulaRefusals.h"
+#include "account/SessionRecord.h"
+#include "formulas/InterestByDay.h"
 
 namespace corvane {
 

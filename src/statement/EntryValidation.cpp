@@ -1,6 +1,6 @@
 #include "statement/EntryValidation.h"
 
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
 #include "statement/InterestMethod.h"
 #include "statement/MinimumBalanceRules.h"
 #include "statement/PeriodicRateFactor.h"

@@ -1,6 +1,6 @@
 #include "statement/MinimumBalanceRules.h"
 
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
 #include "statement/StatementAccount.h"
 
 namespace corvane {

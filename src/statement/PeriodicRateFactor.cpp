@@ -1,7 +1,7 @@
 #include "statement/PeriodicRateFactor.h"
 
-#include "shell/SessionRecord.h"
-#include "statement/DayRate.h"
+#include "account/SessionRecord.h"
+#include "formulas/DayRate.h"
 
 namespace corvane {
 

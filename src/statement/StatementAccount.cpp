@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
 
 namespace corvane {
 

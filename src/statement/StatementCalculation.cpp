@@ -2,11 +2,11 @@
 
 #include <cmath>
 
+#include "account/FormulaRefusals.h"
+#include "account/SessionRecord.h"
+#include "formulas/ApyEarned.h"
 #include "formulas/CheckApy.h"
-#include "formulas/FormulaRefusals.h"
 #include "formulas/RoundValue.h"
-#include "shell/SessionRecord.h"
-#include "statement/ApyEarned.h"
 #include "statement/BalanceBasis.h"
 #include "statement/DailyHandBack.h"
 #include "statement/EntryValidation.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "statement/EntryCheck.h"
+#include "account/EntryCheck.h"
 #include "statement/StatementEntry.h"
 
 namespace corvane {

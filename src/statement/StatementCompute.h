@@ -1,8 +1,8 @@
 #pragma once
 
-#include "shell/SessionRecord.h"
+#include "account/EntryCheck.h"
+#include "account/SessionRecord.h"
 #include "statement/BalanceBasis.h"
-#include "statement/EntryCheck.h"
 
 namespace corvane {
 

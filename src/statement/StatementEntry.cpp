@@ -1,6 +1,6 @@
 #include "statement/StatementEntry.h"
 
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
 #include "statement/BalanceBasis.h"
 #include "statement/InterestMethod.h"
 #include "statement/StatementAccount.h"

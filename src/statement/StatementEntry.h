@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "statement/StatementField.h"
+#include "account/Field.h"
 #include "support/Dates.h"
 
 namespace corvane {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "account/SessionRecord.h"
 #include "formulas/TermCounting.h"
-#include "platform/Clock.h"
-#include "shell/SessionRecord.h"
+#include "support/Clock.h"
 
 namespace corvane {
 

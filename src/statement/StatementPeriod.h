@@ -3,8 +3,8 @@
 #include <optional>
 #include <string_view>
 
+#include "account/Refusal.h"
 #include "statement/StatementEntry.h"
-#include "support/Refusal.h"
 
 namespace corvane {
 

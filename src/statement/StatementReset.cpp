@@ -1,6 +1,6 @@
 #include "statement/StatementReset.h"
 
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
 
 namespace corvane {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "statement/StatementField.h"
+#include "account/Field.h"
 
 namespace corvane {
 

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "CaseTable.h"
+#include "account/TierTable.h"
 #include "disclosure/EntrySequence.h"
-#include "disclosure/TierTable.h"
-#include "formulas/PeriodArrays.h"
+#include "disclosure/PeriodArrays.h"
 
 namespace corvane {
 namespace {

@@ -1,11 +1,11 @@
-#include "formulas/FormulaRefusals.h"
+#include "account/FormulaRefusals.h"
 
 #include <gtest/gtest.h>
 
+#include "account/SessionRecord.h"
 #include "formulas/RegularApy.h"
 #include "formulas/SteppedApy.h"
 #include "formulas/TierSums.h"
-#include "shell/SessionRecord.h"
 
 namespace corvane {
 namespace {

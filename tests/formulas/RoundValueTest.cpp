@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
 
 namespace corvane {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/Clock.h"
-#include "shell/SessionRecord.h"
+#include "account/SessionRecord.h"
+#include "support/Clock.h"
 
 namespace corvane {
 namespace {

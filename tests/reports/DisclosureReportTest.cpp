@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "account/SessionRecord.h"
 #include "disclosure/ReportRows.h"
-#include "platform/Clock.h"
 #include "reports/GoldenFile.h"
-#include "shell/SessionRecord.h"
+#include "support/Clock.h"
 
 namespace corvane {
 namespace {

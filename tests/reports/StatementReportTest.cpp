@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/Clock.h"
+#include "account/SessionRecord.h"
 #include "reports/GoldenFile.h"
 #include "reports/InterestReport.h"
-#include "shell/SessionRecord.h"
+#include "support/Clock.h"
 
 namespace corvane {
 namespace {

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "platform/Clock.h"
 #include "statement/BalanceBasis.h"
 #include "statement/EntryExamples.h"
 #include "statement/EntryValidation.h"
@@ -8,6 +7,7 @@
 #include "statement/MinimumBalanceRules.h"
 #include "statement/PeriodicRateFactor.h"
 #include "statement/StatementPeriod.h"
+#include "support/Clock.h"
 
 namespace corvane {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "shell/SessionRecord.h"
-#include "statement/EntryCheck.h"
+#include "account/EntryCheck.h"
+#include "account/SessionRecord.h"
 #include "statement/StatementEntry.h"
 
 namespace corvane {

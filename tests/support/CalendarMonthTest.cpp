@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/FormCenter.h"
+#include "platform/CenterPosition.h"
 
 namespace corvane {
 namespace {

@@ -1,0 +1,200 @@
+#include "windows/frame/CalendarPopup.h"
+
+#include <map>
+
+#include <QtWidgets>
+
+#include "platform/WorkArea.h"
+#include "support/CalendarMonth.h"
+#include "support/Clock.h"
+#include "ui_CalendarPopup.h"
+#include "windows/frame/WindowRegistry.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr int kColumns = 7;
+constexpr int kRows = 6;
+constexpr int kMonthsOfYear = 12;
+
+}  // namespace
+
+CalendarPopup::CalendarPopup(WindowRegistry& windows)
+    : Form(windows, Role::Secondary),
+      ui_(std::make_unique<Ui::CalendarPopup>()),
+      current_(Today()) {
+  ui_->setupUi(this);
+  setWindowFlag(Qt::Dialog);
+  for (QObject* part :
+       {static_cast<QObject*>(ui_->picMonth), static_cast<QObject*>(ui_->lblPrev),
+        static_cast<QObject*>(ui_->lblNext), static_cast<QObject*>(ui_->LabelPrevYear),
+        static_cast<QObject*>(ui_->LabelNextYear)}) {
+    part->installEventFilter(this);
+  }
+}
+
+CalendarPopup::~CalendarPopup() = default;
+
+bool CalendarPopup::GetDate(Date& date, const QString& caption) {
+  dateChosen_ = false;
+  if (!caption.isEmpty()) setWindowTitle(caption);
+  MoveTo(date.ok() ? date : Today());
+  PlaceBesidePointer();
+  ui_->picMonth->setFocus();
+  // Read when the window closes: it may be gone when the call below returns.
+  bool chosen = false;
+  connect(this, &Form::Unloaded, [this, &chosen, &date] {
+    chosen = dateChosen_;
+    if (chosen) date = current_;
+  });
+  Windows().RunModal(*this);
+  return chosen;
+}
+
+void CalendarPopup::PlaceBesidePointer() {
+  adjustSize();
+  const QPoint pointer = QCursor::pos();
+  const QRect screen = this->screen()->geometry();
+  int left = pointer.x() + 2;
+  if (left + width() > screen.right()) left = pointer.x() - 2 - width();
+  int top = pointer.y() + 20;
+  if (top + height() > screen.bottom()) top = pointer.y() - 2 - height();
+  move(left, top);
+}
+
+void CalendarPopup::MoveTo(const Date& date) {
+  const bool known =
+      date.ok() && static_cast<int>(date.year()) >= 1901 && static_cast<int>(date.year()) <= 9999;
+  if (!known) return;
+  current_ = date;
+  const QDate shown(static_cast<int>(date.year()),
+                    static_cast<int>(static_cast<unsigned>(date.month())), 1);
+  ui_->lblMonth->setText(QLocale::c().toString(shown, "MMMM yyyy"));
+  ui_->picMonth->setAccessibleName(QString::fromStdString(FormatDate(date)));
+  ui_->picMonth->update();
+}
+
+QRectF CalendarPopup::CellRect(const Date& date) const {
+  const DayCell cell = CellOf(date);
+  const int width = (ui_->picMonth->width() - 1) / kColumns;
+  const int height = (ui_->picMonth->height() - 1) / kRows;
+  return QRectF(cell.column * width, cell.row * height, width, height);
+}
+
+void CalendarPopup::PaintMonth() {
+  QPainter painter(ui_->picMonth);
+  painter.fillRect(ui_->picMonth->rect(), palette().button());
+  painter.setPen(palette().color(QPalette::ButtonText));
+  const Date today = Today();
+  for (int number = 1; number <= DaysOfMonth(current_); ++number) {
+    const Date date{current_.year(), current_.month(),
+                    std::chrono::day{static_cast<unsigned>(number)}};
+    QFont font = ui_->picMonth->font();
+    font.setBold(date == today);
+    painter.setFont(font);
+    painter.drawText(CellRect(date), Qt::AlignCenter, QString::number(number));
+  }
+  PaintHighlight(painter);
+}
+
+void CalendarPopup::PaintHighlight(QPainter& painter) const {
+  const QRectF cell = CellRect(current_);
+  painter.setPen(palette().color(QPalette::Dark));
+  painter.drawLine(cell.topLeft(), cell.topRight());
+  painter.drawLine(cell.topLeft(), cell.bottomLeft());
+  painter.setPen(palette().color(QPalette::Light));
+  painter.drawLine(cell.bottomLeft(), cell.bottomRight());
+  painter.drawLine(cell.topRight(), cell.bottomRight());
+}
+
+void CalendarPopup::PressDay(const QPointF& place) {
+  const int width = (ui_->picMonth->width() - 1) / kColumns;
+  const int height = (ui_->picMonth->height() - 1) / kRows;
+  const DayCell cell{static_cast<int>(place.x()) / width, static_cast<int>(place.y()) / height};
+  if (const auto date = DayInCell(current_, cell)) MoveTo(*date);
+}
+
+bool CalendarPopup::picMonth_KeyDown(int key) {
+  switch (key) {
+    case Qt::Key_Right:
+      MoveTo(AddDays(current_, 1));
+      return true;
+    case Qt::Key_Left:
+      MoveTo(AddDays(current_, -1));
+      return true;
+    case Qt::Key_Down:
+      MoveTo(AddDays(current_, kColumns));
+      return true;
+    case Qt::Key_Up:
+      MoveTo(AddDays(current_, -kColumns));
+      return true;
+    case Qt::Key_PageDown:
+      MoveTo(AddMonths(current_, 1));
+      return true;
+    case Qt::Key_PageUp:
+      MoveTo(AddMonths(current_, -1));
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      dateChosen_ = true;
+      return true;
+    case Qt::Key_Escape:
+      Close();
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool CalendarPopup::LabelPressed(QObject* label) {
+  const std::map<QObject*, int> months = {{ui_->lblNext, 1},
+                                          {ui_->lblPrev, -1},
+                                          {ui_->LabelNextYear, kMonthsOfYear},
+                                          {ui_->LabelPrevYear, -kMonthsOfYear}};
+  const auto step = months.find(label);
+  if (step == months.end()) return false;
+  MoveTo(AddMonths(current_, step->second));
+  return true;
+}
+
+void CalendarPopup::Choose() {
+  dateChosen_ = true;
+  Close();
+}
+
+void CalendarPopup::Close() {
+  Windows().CloseWindowForNavigation(*this);
+}
+
+bool CalendarPopup::eventFilter(QObject* watched, QEvent* event) {
+  const bool onMonth = watched == ui_->picMonth;
+  switch (event->type()) {
+    case QEvent::Paint:
+      if (!onMonth) break;
+      PaintMonth();
+      return true;
+    case QEvent::KeyPress:
+      if (onMonth && picMonth_KeyDown(static_cast<QKeyEvent*>(event)->key())) return true;
+      break;
+    case QEvent::MouseButtonPress:
+      if (const auto* mouse = static_cast<QMouseEvent*>(event); onMonth) {
+        PressDay(mouse->position());
+      } else if (mouse->button() == Qt::LeftButton) {
+        LabelPressed(watched);
+      }
+      return true;
+    case QEvent::MouseButtonDblClick:
+      if (onMonth) {
+        Choose();
+      } else {
+        LabelPressed(watched);
+      }
+      return true;
+    default:
+      break;
+  }
+  return Form::eventFilter(watched, event);
+}
+
+}  // namespace corvane

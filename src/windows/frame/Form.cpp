@@ -1,0 +1,221 @@
+#include "windows/frame/Form.h"
+
+#include <QtWidgets>
+
+#include "account/NumericEntry.h"
+#include "account/SessionRecord.h"
+#include "platform/HelpViewer.h"
+#include "platform/MessageBox.h"
+#include "platform/ProgramFolder.h"
+#include "support/NumberText.h"
+#include "windows/frame/WindowRegistry.h"
+#include "windows/start/AboutWindow.h"
+
+namespace corvane {
+
+namespace {
+
+/// Disabled fields show figures that have to be read: their text is fainter, not all but gone.
+QPalette ReadableWhenDisabled(QPalette palette) {
+  QColor text = palette.color(QPalette::Active, QPalette::Text);
+  text.setAlphaF(0.65F);
+  palette.setColor(QPalette::Disabled, QPalette::Text, text);
+  return palette;
+}
+
+}  // namespace
+
+Form::Form(WindowRegistry& windows, Role role) : windows_(windows), role_(role) {
+  setPalette(ReadableWhenDisabled(palette()));
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    const bool isControl = now && now->window() == this && !qobject_cast<QMenuBar*>(now);
+    if (isControl) MoveFocus(now);
+  });
+}
+
+SessionRecord& Form::Session() {
+  return windows_.Session();
+}
+
+void Form::Tell(const Refusal& refusal) {
+  ShowMessage(this, QString::fromStdString(refusal.text), QString::fromStdString(refusal.title),
+              refusal.icon);
+  if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
+}
+
+void Form::FocusField(QWidget* field) {
+  field->setFocus();
+  MoveFocus(field);
+  if (auto* edit = qobject_cast<QLineEdit*>(field)) edit->selectAll();
+}
+
+void Form::OnClick(QAbstractButton* button, Handler handler) {
+  if (auto* push = qobject_cast<QPushButton*>(button)) push->setAutoDefault(true);
+  // The focus moves when the button acts, below: moved by the press, a message that the field left
+  // behind shows would come between press and release.
+  button->setFocusPolicy(Qt::TabFocus);
+  connect(button, &QAbstractButton::clicked, this, [this, button, handler] {
+    if (TakeFocus(button)) handler();
+  });
+}
+
+void Form::OnMenu(QAction* item, Handler handler) {
+  connect(item, &QAction::triggered, this, [this, item, handler] {
+    if (CommitFor(item)) handler();
+  });
+}
+
+void Form::OnOption(QRadioButton* option, Handler handler) {
+  connect(option, &QRadioButton::toggled, this, [handler](bool selected) {
+    if (selected) handler();
+  });
+}
+
+void Form::OnChange(QLineEdit* field, Handler handler) {
+  connect(field, &QLineEdit::textChanged, this, handler);
+}
+
+void Form::OnGotFocus(QWidget* field, Handler handler) {
+  gotFocus_[field] = std::move(handler);
+}
+
+void Form::OnLostFocus(QWidget* field, LostFocusHandler handler) {
+  lostFocus_[field].push_back(std::move(handler));
+}
+
+void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
+  numeric_[field] = rule;
+  field->installEventFilter(this);
+  // What an input method composes would not pass the key filter.
+  field->setAttribute(Qt::WA_InputMethodEnabled, false);
+  OnChange(field, [this, field, rule] { NumericChange(field, rule); });
+}
+
+void Form::SelectTextOnFocus(QLineEdit* field, int characters) {
+  const auto select = [field, characters] { field->setSelection(0, characters); };
+  OnGotFocus(field, [field, select] {
+    select();
+    // A press of the mouse places the cursor after the focus has come, which would unselect.
+    if (QApplication::mouseButtons() != Qt::NoButton) QTimer::singleShot(0, field, select);
+  });
+}
+
+void Form::RewriteOnLeaving(QLineEdit* field) {
+  OnLostFocus(field,
+              [field](const QString&) { SetFieldText(field, RewriteFixed2(FieldText(field))); });
+}
+
+void Form::NameArrayElements() {
+  static const QRegularExpression element("^(.+)_(\\d+)_$");
+  for (auto* widget : findChildren<QWidget*>(element)) {
+    const auto match = element.match(widget->objectName());
+    widget->setObjectName(match.captured(1) + "(" + match.captured(2) + ")");
+  }
+}
+
+void Form::NumericChange(QLineEdit* field, const NumericRule& rule) {
+  const std::u16string typed = field->text().toStdU16String();
+  const std::u16string repaired = rule.repairMinus ? FixMinusSign(typed) : typed;
+  const LimitedText limited = rule.decimals < 0 ? LimitedText{repaired, {}}
+                                                : LimitDecimals(repaired, rule.decimals, rule.kind);
+  if (limited.text != typed) field->setText(QString::fromStdU16String(limited.text));
+  if (limited.message) Tell(*limited.message);
+}
+
+bool Form::RefusesKey(QLineEdit* field, int key, const QString& text, const NumericRule& rule) {
+  if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+    if (rule.enterMovesOn) focusNextPrevChild(true);
+    return true;
+  }
+  const bool typesCharacter = !text.isEmpty() && text.front().isPrint();
+  if (!typesCharacter) return false;
+  if (rule.digitsOnly) return text < "0" || text > "9";
+  return !FilterNumericKey(text.toUcs4().front(),
+                           {field->text().toStdU16String(), field->selectionStart(),
+                            static_cast<int>(field->selectedText().size())});
+}
+
+bool Form::eventFilter(QObject* watched, QEvent* event) {
+  const auto rule = numeric_.find(watched);
+  if (rule == numeric_.end() || event->type() != QEvent::KeyPress) {
+    return QMainWindow::eventFilter(watched, event);
+  }
+  const auto* press = static_cast<QKeyEvent*>(event);
+  const bool isCommand =
+      press->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  return !isCommand &&
+         RefusesKey(qobject_cast<QLineEdit*>(watched), press->key(), press->text(), rule->second);
+}
+
+void Form::HoldFocus(QWidget* field) {
+  focusHeld_ = true;
+  FocusField(field);
+}
+
+void Form::MoveFocus(QWidget* now) {
+  if (now == focused_) return;
+  const QPointer<QWidget> left = focused_;
+  focused_ = now;
+  if (left) RaiseLostFocus(left, now->objectName());
+  const auto got = gotFocus_.find(now);
+  if (focused_ == now && got != gotFocus_.end()) got->second();
+}
+
+void Form::RaiseLostFocus(QWidget* field, const QString& next) {
+  const auto handlers = lostFocus_.find(field);
+  if (handlers == lostFocus_.end()) return;
+  for (const auto& handler : handlers->second) handler(next);
+}
+
+bool Form::TakeFocus(QAbstractButton* button) {
+  focusHeld_ = false;
+  button->setFocus();
+  // A field that holds on to the focus has said why already.
+  if (!focusHeld_) MoveFocus(button);
+  return !focusHeld_;
+}
+
+bool Form::CommitFor(QAction* item) {
+  focusHeld_ = false;
+  if (focused_) RaiseLostFocus(focused_, item->objectName());
+  return !focusHeld_;
+}
+
+void Form::ShowAbout() {
+  windows_.ShowModal<AboutWindow>();
+}
+
+void Form::ShowHelpTopic(int context) {
+  ShowHelp(this, HelpFile(), context);
+}
+
+void Form::BindCommonMenus(int helpContext) {
+  for (auto* item : findChildren<QAction*>()) {
+    if (item->objectName() == "mnuExit") OnMenu(item, [this] { windows_.EndProgram(); });
+    if (item->objectName() == "mnuHelpAbout") OnMenu(item, [this] { ShowAbout(); });
+    if (item->objectName() == "mnuHelpTopics") {
+      OnMenu(item, [this, helpContext] { ShowHelpTopic(helpContext); });
+    }
+  }
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (Form_QueryUnload()) windows_.CloseByFrame(*this);
+}
+
+void ClearOption(QRadioButton* option) {
+  option->setAutoExclusive(false);
+  option->setChecked(false);
+  option->setAutoExclusive(true);
+}
+
+std::string FieldText(const QLineEdit* field) {
+  return field->displayText().toStdString();
+}
+
+void SetFieldText(QLineEdit* field, const std::string& text) {
+  field->setText(QString::fromStdString(text));
+}
+
+}  // namespace corvane

@@ -1,0 +1,130 @@
+#pragma once
+
+#include <climits>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <QMainWindow>
+#include <QPointer>
+
+#include "account/Refusal.h"
+
+class QAbstractButton;
+class QAction;
+class QLineEdit;
+class QRadioButton;
+
+namespace corvane {
+
+class WindowRegistry;
+struct SessionRecord;
+
+/// How a numeric field treats what is typed into it (see NumericEntry.h).
+struct NumericRule {
+  bool repairMinus = false;
+  int decimals = -1;  ///< most decimals allowed, -1 for no limit
+  const char* kind = "";
+  bool enterMovesOn = false;
+  bool digitsOnly = false;
+};
+
+/// The window that all others are built on. It gives a form its life (load once, activation by
+/// navigation, unload) and its entry rules: a field loses the focus exactly once, when the focus
+/// goes to another control of the form or when a button or menu item is about to act, and never
+/// because a message box or another window came in front.
+class Form : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// A main window's frame ends the program; a secondary window's frame only closes it.
+  enum class Role { Main, Secondary };
+
+  Form(WindowRegistry& windows, Role role);
+
+  Role WindowRole() const { return role_; }
+
+  /// Runs once, when the form is made.
+  virtual void Form_Load() {}
+  /// Runs when the program's own navigation brings the form to the front.
+  virtual void Form_Activate() {}
+  /// True for a form that centres itself; any other shows where the window before it stood.
+  virtual bool PlacesItself() const { return false; }
+  /// Asked before the frame closes the form; false keeps it open.
+  virtual bool Form_QueryUnload() { return true; }
+
+  /// Shows the refusal's message, then puts the focus on its field with the text selected.
+  void Tell(const Refusal& refusal);
+
+  /// Puts the focus on a field and selects its text.
+  void FocusField(QWidget* field);
+
+ signals:
+  void Unloaded();
+
+ protected:
+  using Handler = std::function<void()>;
+  /// Takes the object name of the control or menu item that the focus goes to.
+  using LostFocusHandler = std::function<void(const QString& next)>;
+
+  SessionRecord& Session();
+  WindowRegistry& Windows() { return windows_; }
+
+  /// The wiring of a form's handlers. A button and a menu item take the focus before they act, and
+  /// do not act when the field that loses it holds on to it.
+  void OnClick(QAbstractButton* button, Handler handler);
+  void OnMenu(QAction* item, Handler handler);
+  void OnOption(QRadioButton* option, Handler handler);
+  void OnChange(QLineEdit* field, Handler handler);
+  void OnGotFocus(QWidget* field, Handler handler);
+  void OnLostFocus(QWidget* field, LostFocusHandler handler);
+
+  /// Gives the elements of field arrays back the names that they have in the form's file, such as
+  /// "txt_bne(3)": the generated code turns their parentheses into underscores.
+  void NameArrayElements();
+
+  /// Applies the key filter and, on every change, the minus repair and the decimal limit.
+  void BindNumeric(QLineEdit* field, const NumericRule& rule);
+  /// Selects the first characters of the text, or all of it, when the field gets the focus.
+  void SelectTextOnFocus(QLineEdit* field, int characters = INT_MAX);
+  /// Rewrites the field "######0.00" when it loses the focus.
+  void RewriteOnLeaving(QLineEdit* field);
+
+  /// Called by a LostFocus handler that refuses: the focus returns to the field.
+  void HoldFocus(QWidget* field);
+
+  void ShowAbout();
+  void ShowHelpTopic(int context);
+  /// Wires the items that every window's menus share, as far as the form has them: Exit, Topics
+  /// with the window's help context, About.
+  void BindCommonMenus(int helpContext);
+
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void MoveFocus(QWidget* now);
+  void RaiseLostFocus(QWidget* field, const QString& next);
+  bool TakeFocus(QAbstractButton* button);
+  bool CommitFor(QAction* item);
+  void NumericChange(QLineEdit* field, const NumericRule& rule);
+  bool RefusesKey(QLineEdit* field, int key, const QString& text, const NumericRule& rule);
+
+  WindowRegistry& windows_;
+  Role role_;
+  QPointer<QWidget> focused_;
+  bool focusHeld_ = false;
+  std::map<const QWidget*, Handler> gotFocus_;
+  std::map<const QWidget*, std::vector<LostFocusHandler>> lostFocus_;
+  std::map<const QObject*, NumericRule> numeric_;
+};
+
+/// Unselects an option, so that none of its group may be selected.
+void ClearOption(QRadioButton* option);
+
+/// Text between the windows and the core, which holds UTF-8.
+std::string FieldText(const QLineEdit* field);
+void SetFieldText(QLineEdit* field, const std::string& text);
+
+}  // namespace corvane

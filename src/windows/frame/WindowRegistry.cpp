@@ -1,0 +1,111 @@
+#include "windows/frame/WindowRegistry.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QThread>
+
+#include "account/AccountHeader.h"
+#include "account/SessionRecord.h"
+#include "platform/WorkArea.h"
+
+namespace corvane {
+
+WindowRegistry::WindowRegistry(SessionRecord& session) : session_(session) {}
+
+WindowRegistry::~WindowRegistry() {
+  while (!open_.empty()) {
+    Form* form = open_.back().form;
+    open_.pop_back();
+    delete form;
+  }
+  // Forms that closed themselves must not outlive what their browsers need.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+Form* WindowRegistry::FindForm(std::type_index type) const {
+  for (const Entry& entry : open_) {
+    if (entry.type == type) return entry.form;
+  }
+  return nullptr;
+}
+
+void WindowRegistry::Add(std::type_index type, Form* form) {
+  open_.push_back({type, form});
+  form->Form_Load();
+}
+
+void WindowRegistry::PlaceBeforeShowing(Form& form) {
+  KeepInsideWorkArea(form);
+  const QWidget* before = QApplication::activeWindow();
+  const bool follows = before && form.WindowRole() == Form::Role::Main && !form.PlacesItself();
+  if (follows) PlaceOver(form, *before);
+}
+
+void WindowRegistry::BringToFront(Form& form) {
+  if (!form.isVisible()) PlaceBeforeShowing(form);
+  form.show();
+  form.raise();
+  form.activateWindow();
+  form.Form_Activate();
+}
+
+void WindowRegistry::RunModal(Form& form) {
+  // A window that is on the screen already does not become modal.
+  form.hide();
+  form.setWindowModality(Qt::ApplicationModal);
+  BringToFront(form);
+  QEventLoop loop;
+  QObject::connect(&form, &Form::Unloaded, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::DialogExec);
+}
+
+void WindowRegistry::Unload(Form& form) {
+  std::erase_if(open_, [&form](const Entry& entry) { return entry.form == &form; });
+  form.hide();
+  emit form.Unloaded();
+  // The form may be inside one of its own handlers.
+  form.deleteLater();
+  if (form.WindowRole() == Form::Role::Main) WindowUnloadHook();
+}
+
+void WindowRegistry::CloseWindowForNavigation(Form& form) {
+  const Flag before = session_.UnloadEndsProgram;
+  session_.UnloadEndsProgram = false;
+  Unload(form);
+  // Closing a secondary window must not leave the frame of the window behind it without effect.
+  if (form.WindowRole() == Form::Role::Secondary) session_.UnloadEndsProgram = before;
+}
+
+void WindowRegistry::WindowUnloadHook() {
+  if (session_.UnloadEndsProgram) {
+    EndProgram();
+  } else {
+    session_.UnloadEndsProgram = true;
+  }
+}
+
+void WindowRegistry::CloseByFrame(Form& form) {
+  if (form.WindowRole() == Form::Role::Secondary) {
+    CloseWindowForNavigation(form);
+    return;
+  }
+  session_.UnloadEndsProgram = true;
+  Unload(form);
+}
+
+void WindowRegistry::EndProgram() {
+  if (ending_) return;
+  ending_ = true;
+  CaptureUserInfo(session_, HeaderMode::ClearAll);
+  while (!open_.empty()) Unload(*open_.back().form);
+  EndProcess();
+}
+
+void WindowRegistry::EndProcess() {
+  ended_ = true;
+  // quit() would first close all windows as their frames do, and stop at one that only closes.
+  // Where no event loop runs, none is left, and one that starts later must not end at once.
+  if (QThread::currentThread()->loopLevel() > 0) QCoreApplication::exit();
+}
+
+}  // namespace corvane

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <typeindex>
+#include <vector>
+
+#include "windows/frame/Form.h"
+
+namespace corvane {
+
+/// The program's windows: makes a form on first use, hands it out, brings it to the front and
+/// closes it, and ends the program.
+class WindowRegistry {
+ public:
+  explicit WindowRegistry(SessionRecord& session);
+  ~WindowRegistry();
+
+  WindowRegistry(const WindowRegistry&) = delete;
+  WindowRegistry& operator=(const WindowRegistry&) = delete;
+
+  SessionRecord& Session() { return session_; }
+
+  /// The form, or null when it was never made or is closed.
+  template <class AForm>
+  AForm* Find() const {
+    return static_cast<AForm*>(FindForm(typeid(AForm)));
+  }
+
+  /// The form, made and loaded (but not shown) on first use.
+  template <class AForm>
+  AForm& Get() {
+    if (auto* form = Find<AForm>()) return *form;
+    auto* form = new AForm(*this);
+    Add(typeid(AForm), form);
+    return *form;
+  }
+
+  /// Brings the form to the front and activates it.
+  template <class AForm>
+  AForm& Show() {
+    AForm& form = Get<AForm>();
+    BringToFront(form);
+    return form;
+  }
+
+  /// Shows the form above all others and returns when it has closed.
+  template <class AForm>
+  void ShowModal() {
+    RunModal(Get<AForm>());
+  }
+
+  /// Closes the form as part of moving on; does nothing when it is not loaded.
+  template <class AForm>
+  void Discard() {
+    if (auto* form = Find<AForm>()) CloseWindowForNavigation(*form);
+  }
+
+  /// Closes a window without ending the program.
+  void CloseWindowForNavigation(Form& form);
+
+  /// The unload of every main window: ends the program unless navigation closed the window.
+  void WindowUnloadHook();
+
+  /// The person closed the window by its frame: ends the program, or closes a secondary window.
+  void CloseByFrame(Form& form);
+
+  /// Shows an already made form modally and returns when it has closed.
+  void RunModal(Form& form);
+
+  /// The one orderly way out: clears the identification, closes all windows newest first, ends.
+  void EndProgram();
+
+  /// Ends the process at once, leaving windows as they are.
+  void EndProcess();
+
+  /// Whether the program has ended; a test reads it, for its own process goes on.
+  bool HasEnded() const { return ended_; }
+
+ private:
+  struct Entry {
+    std::type_index type;
+    Form* form;
+  };
+
+  Form* FindForm(std::type_index type) const;
+  void Add(std::type_index type, Form* form);
+  void PlaceBeforeShowing(Form& form);
+  void BringToFront(Form& form);
+  void Unload(Form& form);
+
+  SessionRecord& session_;
+  std::vector<Entry> open_;  ///< oldest first
+  bool ending_ = false;
+  bool ended_ = false;
+};
+
+}  // namespace corvane

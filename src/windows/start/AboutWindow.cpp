@@ -1,0 +1,51 @@
+#include "windows/start/AboutWindow.h"
+
+#include <QtWidgets>
+
+#include "platform/FormCenter.h"
+#include "platform/MessageBox.h"
+#include "platform/Pictures.h"
+#include "platform/ProgramFolder.h"
+#include "platform/SystemInfo.h"
+#include "support/ProgramTitle.h"
+#include "ui_AboutWindow.h"
+#include "windows/frame/WindowRegistry.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr const char* kSupportContact = "corvane-support@example.org";
+
+}  // namespace
+
+AboutWindow::AboutWindow(WindowRegistry& windows)
+    : Form(windows, Role::Secondary), ui_(std::make_unique<Ui::AboutWindow>()) {
+  ui_->setupUi(this);
+  OnClick(ui_->cmdOK, [this] { Windows().CloseWindowForNavigation(*this); });
+  OnClick(ui_->cmdSysInfo, [this] { cmdSysInfo_Click(); });
+}
+
+AboutWindow::~AboutWindow() = default;
+
+void AboutWindow::Form_Load() {
+  clsFormCenter().CenterForm(*this);
+  const QString title = kProgramTitle;
+  setWindowTitle("About " + title);
+  ui_->picIcon->setPixmap(ProgramIcon().pixmap(128));
+  ui_->lblTitle->setText(title);
+  ui_->lblVersion->setText("Version " + QApplication::applicationVersion());
+  const QString folder = QString::fromStdString(PathText(ProgramFolder()));
+  ui_->TextConfig->setPlainText(QString("To report problems, contact:\r\n\t%1\r\n\r\n"
+                                        "Application Path=%2\r\n")
+                                    .arg(kSupportContact, folder));
+  ui_->cmdOK->setFocus();
+}
+
+void AboutWindow::cmdSysInfo_Click() {
+  if (StartSysInfo()) return;
+  ShowMessage(this, "System Information Is Unavailable At This Time", kProgramTitle,
+              MessageIcon::None);
+}
+
+}  // namespace corvane

@@ -1,0 +1,190 @@
+#include "windows/statement/DailyBalancesWindow.h"
+
+#include <QtWidgets>
+
+#include "account/SessionRecord.h"
+#include "platform/FormCenter.h"
+#include "platform/MessageBox.h"
+#include "statement/DailyHandBack.h"
+#include "support/ProgramTitle.h"
+#include "ui_DailyBalancesWindow.h"
+#include "windows/frame/WindowRegistry.h"
+#include "windows/statement/InterestReportWindow.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr int kHelpContext = 10;
+constexpr int kRowsPerColumn = 11;
+constexpr int kGridColumns = 4;  ///< label, balance, rate and the gap to the next three
+constexpr int kFieldWidth = 100;
+constexpr int kRateWidth = 76;
+
+QLineEdit* MakeField(QWidget* parent, const char* name, int index, const char* tip, int width) {
+  auto* field = new QLineEdit(parent);
+  field->setObjectName(QString("%1(%2)").arg(name).arg(index));
+  field->setToolTip(tip);
+  field->setMinimumWidth(width);
+  field->setAlignment(Qt::AlignRight);
+  return field;
+}
+
+/// A rate that is worked out is there to be read, though it cannot be typed.
+void KeepReadable(QLineEdit* field) {
+  QPalette palette = field->palette();
+  palette.setBrush(QPalette::Disabled, QPalette::Text,
+                   palette.brush(QPalette::Active, QPalette::Text));
+  field->setPalette(palette);
+}
+
+}  // namespace
+
+DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& windows)
+    : Form(windows, Role::Secondary), ui_(std::make_unique<Ui::DailyBalancesWindow>()) {
+  ui_->setupUi(this);
+  setWindowFlag(Qt::Dialog);
+  NameArrayElements();
+  BuildRows();
+  OnClick(ui_->cmdPrevious, [this] { GoToPage(page_ - 1); });
+  OnClick(ui_->cmdNext, [this] { GoToPage(page_ + 1); });
+  OnClick(ui_->cmdContinue, [this] { cmdContinue_Click(); });
+  OnClick(ui_->cmdClear, [this] { cmdClear_Click(); });
+  OnClick(ui_->cmdPrint, [this] { cmdPrint_Click(); });
+  BindCommonMenus(kHelpContext);
+}
+
+DailyBalancesWindow::~DailyBalancesWindow() = default;
+
+void DailyBalancesWindow::BuildRows() {
+  QWidget* last = ui_->cmdPrint;
+  for (std::size_t index = 0; index < rows_.size(); ++index) {
+    rows_[index] = MakeRow(static_cast<int>(index));
+    BindRow(index);
+    QWidget::setTabOrder(last, rows_[index].balance);
+    QWidget::setTabOrder(rows_[index].balance, rows_[index].rate);
+    last = rows_[index].rate;
+  }
+}
+
+DailyBalancesWindow::Row DailyBalancesWindow::MakeRow(int index) {
+  const Row row{new QLabel(ui_->fraDays),
+                MakeField(ui_->fraDays, "txtDayBal", index, "Daily Balance", kFieldWidth),
+                MakeField(ui_->fraDays, "txtRate", index, "Daily Interest Rate", kRateWidth)};
+  KeepReadable(row.rate);
+  row.label->setObjectName(QString("lblDay(%1)").arg(index));
+  row.label->setBuddy(row.balance);
+  const int line = 1 + index % kRowsPerColumn;
+  const int column = kGridColumns * (index / kRowsPerColumn);
+  ui_->days->addWidget(row.label, line, column);
+  ui_->days->addWidget(row.balance, line, column + 1);
+  ui_->days->addWidget(row.rate, line, column + 2);
+  return row;
+}
+
+void DailyBalancesWindow::BindRow(std::size_t index) {
+  const Row& row = rows_[index];
+  BindNumeric(row.balance, {.repairMinus = true, .decimals = 2, .kind = "bal"});
+  BindNumeric(row.rate, {.repairMinus = true, .decimals = 4, .kind = "int"});
+  SelectTextOnFocus(row.balance);
+  SelectTextOnFocus(row.rate);
+  OnLostFocus(row.balance, [this, index](const QString&) { txtDayBal_LostFocus(index); });
+  OnLostFocus(row.rate, [this, index](const QString&) { txtRate_LostFocus(index); });
+}
+
+void DailyBalancesWindow::Form_Load() {
+  clsFormCenter().CenterForm(*this);
+}
+
+bool DailyBalancesWindow::Form_QueryUnload() {
+  const bool closes = AskYesNo(
+      this, "Any data you have entered will be lost. Are you sure you want to close this window?",
+      kProgramTitle);
+  if (closes) Session().ComputeFlag = true;
+  return closes;
+}
+
+void DailyBalancesWindow::EnterDays(double interestRate) {
+  if (const auto refusal = LoadDailyBalances(Session(), interestRate, daily_)) {
+    Tell(*refusal);
+    Session().ComputeFlag = true;
+    return Windows().CloseWindowForNavigation(*this);
+  }
+  ui_->lblMinADB->setText(QString::fromStdString(MinimumAdbText(Session())));
+  ui_->lblMinBal->setText(QString::fromStdString(MinimumDailyBalanceText(Session())));
+  GoToPage(1);
+  Windows().RunModal(*this);
+}
+
+void DailyBalancesWindow::GoToPage(int page) {
+  if (page != page_) TakePage();
+  page_ = page;
+  ShowPage();
+  FocusField(rows_.front().balance);
+}
+
+void DailyBalancesWindow::ShowPage() {
+  const DaySpan span = DaysOnPage(page_, daily_.days.size());
+  for (std::size_t row = 0; row < rows_.size(); ++row) ShowRow(row, span.first + row);
+  ui_->cmdPrevious->setEnabled(page_ > 1);
+  ui_->cmdNext->setEnabled(HasNextPage(page_, daily_.days.size()));
+}
+
+void DailyBalancesWindow::ShowRow(std::size_t row, std::size_t day) {
+  const Row& controls = rows_[row];
+  const bool exists = day < daily_.days.size();
+  const DayTexts texts = exists ? TextsOfDay(daily_, day) : DayTexts{};
+  const QString date = QString::fromStdString(DayLabel(Session().PeriodStart, day));
+  controls.label->setText(date);
+  controls.label->setVisible(exists);
+  controls.balance->setVisible(exists);
+  controls.balance->setAccessibleName("Daily balance " + date);
+  SetFieldText(controls.balance, texts.balance);
+  controls.rate->setVisible(exists);
+  controls.rate->setEnabled(daily_.TakesRates());
+  controls.rate->setAccessibleName("Rate " + date);
+  SetFieldText(controls.rate, texts.rate);
+}
+
+void DailyBalancesWindow::TakePage() {
+  const DaySpan span = DaysOnPage(page_, daily_.days.size());
+  for (std::size_t day = span.first; day < span.end; ++day) TakeRow(day - span.first, day);
+}
+
+void DailyBalancesWindow::TakeRow(std::size_t row, std::size_t day) {
+  TakeDay(daily_, day, {FieldText(rows_[row].balance), FieldText(rows_[row].rate)});
+}
+
+void DailyBalancesWindow::txtDayBal_LostFocus(std::size_t row) {
+  const std::size_t day = DaysOnPage(page_, daily_.days.size()).first + row;
+  const DayTexts texts = EnterBalance(daily_, day, FieldText(rows_[row].balance));
+  SetFieldText(rows_[row].balance, texts.balance);
+  SetFieldText(rows_[row].rate, texts.rate);
+}
+
+void DailyBalancesWindow::txtRate_LostFocus(std::size_t row) {
+  TakeRow(row, DaysOnPage(page_, daily_.days.size()).first + row);
+}
+
+void DailyBalancesWindow::cmdContinue_Click() {
+  TakePage();
+  if (const auto refusal = ComputeAdb(Session(), daily_)) {
+    ShowPage();
+    return Tell(*refusal);
+  }
+  Windows().CloseWindowForNavigation(*this);
+}
+
+void DailyBalancesWindow::cmdClear_Click() {
+  ClearDays(daily_);
+  GoToPage(1);
+}
+
+void DailyBalancesWindow::cmdPrint_Click() {
+  TakePage();
+  StoreDays(Session(), daily_);
+  ShowPage();
+  Windows().ShowModal<InterestReportWindow>();
+}
+
+}  // namespace corvane

@@ -1,0 +1,82 @@
+#include "formulas/InterestByDay.h"
+
+#include "CaseTable.h"
+#include "formulas/DayRate.h"
+
+namespace corvane {
+namespace {
+
+const std::vector<BalanceTier> kTiers = {{0, 1.05}, {1000, 2.5}, {2500, 4.1265}, {15000, 5.75}};
+
+StatementAccount AccountOfKind(RateKind kind) {
+  StatementAccount account;
+  account.kind = kind;
+  account.rate = 3.65;
+  if (IsTiered(kind)) account.tiers = kTiers;
+  return account;
+}
+
+StatementAccount AccountOfRow(const CaseRow& row) {
+  static const std::map<std::string, RateKind> kinds = {{"regular", RateKind::Regular},
+                                                        {"stepped", RateKind::Stepped},
+                                                        {"tierA", RateKind::TierA},
+                                                        {"tierB", RateKind::TierB}};
+  StatementAccount account = AccountOfKind(kinds.at(row.Text("kind")));
+  account.method = row.Text("method") == "adb" ? BalanceMethod::AverageDailyBalance
+                                               : BalanceMethod::DailyBalance;
+  const std::string minimums = row.Text("minimums");
+  if (minimums == "adb" || minimums == "both") account.minimumAdb = 1000;
+  if (minimums == "daily" || minimums == "both") account.minimumDailyBalance = 500;
+  account.compoundingDays = row.Whole("every");
+  account.daysInYear = row.Text("pattern") == "varied" ? 365 : 366;
+  return account;
+}
+
+TEST(InterestByDay, EveryKindOfAccountAgreesWithTheReference) {
+  const auto days = ReadCases("statement_days.csv");
+  for (const CaseRow& row : ReadCases("interest_by_day.csv")) {
+    std::vector<double> balances, rates;
+    for (std::size_t day = 0; day < static_cast<std::size_t>(row.Whole("days")); ++day) {
+      balances.push_back(days.at(day).Number(row.Text("pattern")));
+      rates.push_back(days.at(day).Number("steprate"));
+    }
+    const auto computed = InterestByDay(AccountOfRow(row), balances, rates);
+    EXPECT_EQ(FormatFixed2(computed.averageBalance), row.Text("adb")) << row.line;
+    EXPECT_NEAR(computed.interest.total, row.Number("interest"), 1e-10) << row.line;
+    double sum = 0;
+    for (double interest : computed.interest.ofDay) sum += interest;
+    EXPECT_NEAR(sum, computed.interest.total, 1e-10) << row.line;
+  }
+}
+
+TEST(InterestByDay, CompoundingEveryThirtyDaysAddsTheTotalOnDays31And61Only) {
+  StatementAccount account = AccountOfKind(RateKind::Regular);
+  account.compoundingDays = 30;
+  const auto ofDay = InterestByDay(account, std::vector<double>(62, 1000), {}).interest.ofDay;
+  EXPECT_NEAR(ofDay[29], 0.1, 1e-12);
+  EXPECT_NEAR(ofDay[30], 0.0001 * 1003, 1e-12);
+  EXPECT_NEAR(ofDay[31], 0.1, 1e-12);
+  EXPECT_NEAR(ofDay[60], 0.0001 * (1000 + 3 + 3.0003), 1e-12);
+}
+
+TEST(InterestByDay, ADayBelowTheMinimumOrNegativeEarnsNothingWhateverTheAccount) {
+  for (RateKind kind : {RateKind::Regular, RateKind::Stepped, RateKind::TierA, RateKind::TierB}) {
+    StatementAccount account = AccountOfKind(kind);
+    EXPECT_EQ(InterestByDay(account, {-900}, {5}).interest.total, 0) << "a debt costs nothing";
+    account.minimumDailyBalance = 500;
+    const auto ofDay = InterestByDay(account, {499.99, 500}, {5, 5}).interest.ofDay;
+    EXPECT_EQ(ofDay[0], 0);
+    EXPECT_GT(ofDay[1], 0);
+  }
+}
+
+TEST(InterestByDay, ABalanceEqualToABoundBelongsToTheLowerTier) {
+  const std::pair<double, double> rates[] = {
+      {-5, 1.05}, {1000, 1.05}, {1000.01, 2.5}, {15000, 4.1265}, {15000.01, 5.75}};
+  for (const auto& [balance, rate] : rates) {
+    EXPECT_EQ(RateOfDay(AccountOfKind(RateKind::TierA), balance, 0), rate) << balance;
+  }
+}
+
+}  // namespace
+}  // namespace corvane

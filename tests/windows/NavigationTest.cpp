@@ -1,0 +1,108 @@
+#include "platform/ProgramFolder.h"
+#include "windows/WindowTest.h"
+#include "windows/start/AboutWindow.h"
+#include "windows/start/DisclaimerWindow.h"
+#include "windows/start/MainMenu.h"
+
+namespace corvane {
+namespace {
+
+class Navigation : public WindowTest {
+ protected:
+  template <class AForm>
+  void Open() {
+    windows.Show<AForm>();
+    InFront<AForm>();
+  }
+};
+
+TEST_F(Navigation, TheDisclaimerLeadsToTheMainMenuAndTheFrameEndsTheProgram) {
+  Open<DisclaimerWindow>();
+  EXPECT_EQ(InFront<DisclaimerWindow>().windowTitle().toStdString(), " Annual Percentage Yield");
+  Click("cmdOK");
+  InFront<MainMenu>();
+  EXPECT_FALSE(IsVisible<DisclaimerWindow>());
+  EXPECT_EQ(session.RoundingDigits, 15);
+  EXPECT_TRUE(QDir(QString::fromStdString(session.AppDataFolder)).exists());
+  EXPECT_FALSE(windows.HasEnded());
+  session.InstitutionName = "First Bank";
+  CloseByFrame();
+  EXPECT_TRUE(windows.HasEnded());
+  EXPECT_EQ(session.InstitutionName, "") << "the orderly way out clears the identification";
+}
+
+TEST_F(Navigation, TheFrameOfTheFirstWindowEndsTheProgram) {
+  Open<DisclaimerWindow>();
+  CloseByFrame();
+  EXPECT_TRUE(windows.HasEnded());
+}
+
+TEST_F(Navigation, EscapeOnTheMainMenuEndsTheProcessAtOnce) {
+  Open<MainMenu>();
+  session.InstitutionName = "First Bank";
+  Key(Qt::Key_Tab);
+  EXPECT_FALSE(windows.HasEnded());
+  Key(Qt::Key_Escape);
+  EXPECT_TRUE(windows.HasEnded());
+  EXPECT_EQ(session.InstitutionName, "First Bank") << "the orderly way out would have cleared it";
+}
+
+TEST_F(Navigation, ExitOfTheDisclaimerEndsTheProcessWhateverElseIsOpen) {
+  Open<DisclaimerWindow>();
+  session.InstitutionName = "First Bank";
+  Click("cmdAbout");
+  InFront<AboutWindow>();
+  QTimer::singleShot(0, [this] {
+    InFront<DisclaimerWindow>();
+    Click("cmdExit");
+  });
+  QTimer watchdog;
+  QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+  watchdog.start(5000);
+  EXPECT_EQ(QApplication::exec(), 0) << "the process goes on";
+  EXPECT_EQ(session.InstitutionName, "First Bank") << "no window was closed as by its frame";
+}
+
+TEST_F(Navigation, AboutIsModalOverTheMainMenuAlsoWhenItWasLeftOpenAndItsFrameClosesOnlyIt) {
+  Open<DisclaimerWindow>();
+  Click("cmdAbout");
+  EXPECT_EQ(InFront<AboutWindow>().windowTitle().toStdString(), "About Corvane Calculator");
+  EXPECT_EQ(Caption("lblVersion"), "Version 2.1.18");
+  InFront<DisclaimerWindow>();
+  Click("cmdOK");
+  InFront<MainMenu>();
+  WhenShown<AboutWindow>([this] {
+    EXPECT_EQ(QApplication::activeModalWidget(), windows.Find<AboutWindow>());
+    Expect({"System Information Is Unavailable At This Time", "Corvane Calculator",
+            MessageIcon::None});
+    Click("cmdSysInfo");
+    CloseByFrame();
+  });
+  Menu("mnuHelp", "mnuAbout");
+  EXPECT_FALSE(IsVisible<AboutWindow>());
+  EXPECT_FALSE(windows.HasEnded());
+  InFront<MainMenu>();
+  CloseByFrame();
+  EXPECT_TRUE(windows.HasEnded());
+}
+
+TEST_F(Navigation, TheTitleScreenOptionIsKeptInTheSettingsFile) {
+  QFile settings(QString::fromStdString(PathText(SettingsFile())));
+  settings.remove();
+  Open<MainMenu>();
+  for (const bool checked : {true, false, true}) {
+    Menu("mnuOptions", "mnuShowTitle");
+    EXPECT_EQ(Get<QAction>("mnuShowTitle")->isChecked(), checked);
+    ASSERT_TRUE(settings.open(QIODevice::ReadOnly));
+    EXPECT_EQ(settings.readAll().toStdString(),
+              checked ? "[Options]\r\nStartup Intro=Yes\r\n" : "[Options]\r\nStartup Intro=No\r\n");
+    settings.close();
+  }
+  windows.Discard<MainMenu>();
+  Open<MainMenu>();
+  EXPECT_TRUE(Get<QAction>("mnuShowTitle")->isChecked());
+  settings.remove();
+}
+
+}  // namespace
+}  // namespace corvane

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+
+#include <gtest/gtest.h>
+#include <QtTest>
+#include <QtWidgets>
+
+#include "account/SessionRecord.h"
+#include "windows/frame/WindowRegistry.h"
+
+namespace corvane {
+
+/// A message box that a test expects: exactly this text, title and icon, answered with a button.
+struct ExpectedBox {
+  std::string text;
+  std::string title = kKeyEntryError;
+  MessageIcon icon = MessageIcon::Exclamation;
+  QMessageBox::StandardButton answer = QMessageBox::Ok;
+};
+
+/// Drives the program's windows as a person does: real key presses and mouse clicks on the
+/// controls, found by name in the window in front. A message box that no test expected fails the
+/// test, and so does an expected one that never came.
+class WindowTest : public ::testing::Test {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+
+  /// The boxes that the following acts will raise, in order.
+  void Expect(ExpectedBox box) { expected_.push_back(std::move(box)); }
+  void ExpectText(const std::string& text) { Expect({.text = text}); }
+
+  /// Makes the form the one that the following acts are done in, waiting until it is in front.
+  template <class AForm>
+  AForm& InFront() {
+    EXPECT_TRUE(QTest::qWaitFor([this] { return IsVisible<AForm>(); })) << "window is not shown";
+    AForm& form = windows.Get<AForm>();
+    front_ = &form;
+    Activate();
+    return form;
+  }
+
+  template <class AForm>
+  bool IsVisible() const {
+    const AForm* form = windows.Find<AForm>();
+    return form && form->isVisible();
+  }
+
+  template <class Control>
+  Control* Get(const QString& name) const {
+    auto* control = front_->findChild<Control*>(name);
+    if (!control) ADD_FAILURE() << "no control " << name.toStdString();
+    return control;
+  }
+
+  /// Clicks into the field, selects what it holds and types the text over it, or deletes it.
+  void Type(const QString& field, const QString& text);
+  /// Types into the control that has the focus.
+  void Keys(const QString& text);
+  void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  void Click(const QString& button);
+  void Choose(const QString& option);
+  /// Opens the menu with the mouse and clicks its item.
+  void Menu(const QString& menu, const QString& item);
+  /// Presses Alt and a captioned letter.
+  void AccessKey(int key);
+  /// What to do in a modal window that the next act opens: the act comes back when it has closed.
+  template <class AForm>
+  void WhenShown(std::function<void()> doThere) {
+    QTimer::singleShot(0, qApp, [this, doThere] {
+      InFront<AForm>();
+      doThere();
+    });
+  }
+  /// Waits for the boxes that an access key raises, because its button first shows itself pressed.
+  void AwaitBoxes() {
+    EXPECT_TRUE(QTest::qWaitFor([this] { return expected_.empty(); }));
+  }
+  /// Closes the window in front by its frame.
+  void CloseByFrame() { front_->close(); }
+
+  std::string Text(const QString& field) const;
+  std::string Caption(const QString& label) const;
+  bool IsShown(const QString& control) const { return Get<QWidget>(control)->isVisible(); }
+  bool IsEnabled(const QString& control) const { return Get<QWidget>(control)->isEnabled(); }
+  /// Name of the control that has the focus.
+  std::string Focus() const;
+  bool IsChosen(const QString& option) const { return Get<QRadioButton>(option)->isChecked(); }
+
+  SessionRecord session;
+  WindowRegistry windows{session};
+
+ private:
+  void Answer(QMessageBox& box);
+  /// Without a window manager nobody else brings the window in front back once a message box or
+  /// another window above it has closed.
+  void Activate() const;
+
+  QPointer<Form> front_;
+  std::deque<ExpectedBox> expected_;
+};
+
+}  // namespace corvane
