@@ -3,7 +3,7 @@
 set -eu
 cd "$(dirname "$0")"
 
-scripts/install-packages.sh
+scripts/install-packages.sh run
 cmake --preset release >/dev/null
 cmake --build --preset release --target corvane
 

@@ -4,7 +4,7 @@
 set -eu
 cd "$(dirname "$0")"
 
-scripts/install-packages.sh
+scripts/install-packages.sh test
 cmake --preset dev >/dev/null
 cmake --build --preset dev
 exec ctest --preset dev -j 2 "$@" </dev/null

@@ -1,14 +1,24 @@
 #!/bin/sh
-# Installs the Debian 12 packages that building, testing and running need; as root, or with sudo.
-# Does nothing when all of them are there.
+# Installs the Debian 12 packages that are still missing, as root or with sudo:
+#   scripts/install-packages.sh run    to build and start the program
+#   scripts/install-packages.sh test   to build and run the tests as well
+#   scripts/install-packages.sh ci     for all that .ci/run does; also without an argument
 set -eu
 
-packages="
-  cmake ninja-build g++
-  qt6-base-dev qt6-webengine-dev libgl-dev libvulkan-dev
-  libgtest-dev libbenchmark-dev clang-format
-  fontconfig fonts-dejavu-core
-"
+for_run="cmake ninja-build g++ qt6-base-dev qt6-webengine-dev libgl-dev libvulkan-dev
+  fontconfig fonts-dejavu-core"
+for_test="$for_run libgtest-dev"
+for_ci="$for_test libbenchmark-dev clang-format python3"
+
+case "${1:-ci}" in
+  run) packages=$for_run ;;
+  test) packages=$for_test ;;
+  ci) packages=$for_ci ;;
+  *)
+    echo "Usage: $0 [run|test|ci]" >&2
+    exit 2
+    ;;
+esac
 
 # shellcheck disable=SC2086  # one word per package
 installed=" $(dpkg-query -W -f='${Package}=${db:Status-Status} ' $packages 2>/dev/null || true)"
