@@ -1,6 +1,6 @@
 """Interest of one term in exact decimal arithmetic, for the reference tables.
 
-Independent of the program: closed formulas in 50 decimal digits instead of stepped loops in binary,
+Independent of the program: closed formulas in decimal digits instead of stepped loops in binary,
 and the calendar of the Python library. Sources: Regulation DD, Appendix A, Part I.A,
 and the program's rules for counting days.
 """
@@ -8,9 +8,7 @@ and the program's rules for counting days.
 import calendar
 from dataclasses import dataclass
 from datetime import date
-from decimal import ROUND_HALF_EVEN, Decimal, getcontext
-
-getcontext().prec = 50
+from decimal import ROUND_HALF_EVEN, Decimal
 
 
 @dataclass

@@ -1,16 +1,15 @@
-#!/usr/bin/env python3
-"""Works out, in decimal arithmetic, what the statement tests compare with.
+"""Rows of periodic statements: 96 days, interest by day of every kind of account, the yield earned.
 
 Written from Regulation DD, Appendix A, Part II, and the program's rules for interest by day; it
-shares nothing with the program. Run it in its own folder to write the three tables anew:
-  statement_days.csv   the balances and step rates of 96 days
-  interest_by_day.csv  average daily balance and interest of every kind of account
-  apy_earned.csv       annual percentage yield earned, by both formulas
+shares nothing with the program.
 """
-from decimal import ROUND_HALF_EVEN, Decimal, getcontext
+
+from decimal import ROUND_HALF_EVEN, Decimal
 from itertools import product
 
-getcontext().prec = 60
+DAY_COLUMNS = "varied low steprate".split()
+INTEREST_COLUMNS = "kind method minimums pattern days every adb interest".split()
+EARNED_COLUMNS = "interest balance days year period apy additional".split()
 
 TIERS = [("0", "1.05"), ("1000", "2.5"), ("2500", "4.1265"), ("15000", "5.75")]  # above, percent
 RATE = Decimal("3.65")
@@ -92,25 +91,25 @@ def apy_additional(amount, balance, days, year, period):
     return 100 * (power - 1)
 
 
-def write(name, heading, rows):
-    with open(name, "w", newline="\n") as table:
-        table.write(heading + "\n")
-        table.writelines(",".join(str(cell) for cell in row) + "\n" for row in rows)
+def day_rows():
+    """The balances and step rates of each day."""
+    return zip(balances("varied"), balances("low"), step_rates())
 
 
-def main():
-    write("statement_days.csv", "varied,low,steprate",
-          zip(balances("varied"), balances("low"), step_rates()))
+def interest_rows():
+    """Average daily balance and interest of every kind of account."""
     cases = product(["regular", "stepped", "tierA", "tierB"], ["adb", "daily"],
                     ["none", "adb", "daily", "both"], ["varied", "low"], DAYS, [0, 1, 30])
-    write("interest_by_day.csv", "kind,method,minimums,pattern,days,every,adb,interest",
-          ((*c, *(lambda r: (r[0], rounded(r[1], 15)))(interest(*c))) for c in cases))
-    entries = [(Decimal(i), Decimal(b), d, y, p) for (i, b), d, y, p in product(
-        [("5.25", "1000"), ("12.50", "10000"), ("0", "250"), ("812.37", "99999.99")],
-        [1, 30, 31, 96], [365, 366], [28, 91, 365])]
-    write("apy_earned.csv", "interest,balance,days,year,period,apy,additional",
-          ((*e, rounded(apy(*e[:4]), 12), rounded(apy_additional(*e), 12)) for e in entries))
+    for case in cases:
+        adb, amount = interest(*case)
+        yield [*case, adb, rounded(amount, 15)]
 
 
-if __name__ == "__main__":
-    main()
+def earned_rows():
+    """Annual percentage yield earned, by both formulas."""
+    amounts = [("5.25", "1000"), ("12.50", "10000"), ("0", "250"), ("812.37", "99999.99")]
+    cases = product(amounts, [1, 30, 31, 96], [365, 366], [28, 91, 365])
+    for (amount, balance), days, year, period in cases:
+        entry = [Decimal(amount), Decimal(balance), days, year]
+        yield [*entry, period, rounded(apy(*entry), 12),
+               rounded(apy_additional(*entry, period), 12)]
