@@ -5,19 +5,24 @@
 #include <fstream>
 #include <iterator>
 
+#include "TemporaryFolder.h"
+
 namespace corvane {
 
 namespace {
 
 void ExpectFilled(const std::string& templatePath, std::string_view expectedName,
                   const ReportContent& content) {
-  const std::string outputPath = FileIn(testing::TempDir(), expectedName);
+  TemporaryFolder folder;
+  const std::string outputPath = FileIn(Utf8Of(folder.Path()), expectedName);
   const ReportBuild build = BuildReportFile(templatePath, outputPath, content);
   ASSERT_FALSE(build.error.has_value()) << MessageFor(*build.error).text;
   EXPECT_TRUE(build.unknownTags.empty()) << build.unknownTags.front();
   const std::string expected = BytesOf(FileIn(CORVANE_GOLDEN_FOLDER, expectedName));
   ASSERT_FALSE(expected.empty()) << "no expected report " << expectedName;
-  EXPECT_EQ(BytesOf(outputPath), expected) << "computed: " << outputPath;
+  const std::string computed = BytesOf(outputPath);
+  EXPECT_EQ(computed, expected) << "computed: " << outputPath;
+  if (computed != expected) folder.Keep();
 }
 
 }  // namespace

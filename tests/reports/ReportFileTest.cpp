@@ -9,6 +9,7 @@
 #include <sys/resource.h>
 #endif
 
+#include "TemporaryFolder.h"
 #include "reports/GoldenFile.h"
 #include "reports/SaveName.h"
 
@@ -19,12 +20,11 @@ void WriteBytes(const std::string& path, std::string_view bytes) {
   std::ofstream(PathOf(path), std::ios::binary) << bytes;
 }
 
-/// An empty folder of its own, with letters outside ASCII, holding a template.
+/// A folder with letters outside ASCII that holds a template and a report.
 class ReportFile : public testing::Test {
  protected:
   void SetUp() override {
-    std::filesystem::remove_all(PathOf(folder_));
-    std::filesystem::create_directories(PathOf(folder_));
+    std::filesystem::create_directory(PathOf(folder_));
     WriteBytes(template_, "one ^tag^\r\ntwo\n\nth\rree");
     WriteBytes(output_, "previous report");
   }
@@ -49,7 +49,8 @@ class ReportFile : public testing::Test {
     EXPECT_EQ(FileCount(), 2u) << "no file is left beside";
   }
 
-  const std::string folder_ = FileIn(testing::TempDir(), "b\xC3\xBCro reports");
+  const TemporaryFolder temporary_;
+  const std::string folder_ = FileIn(Utf8Of(temporary_.Path()), "b\xC3\xBCro reports");
   const std::string template_ = FileIn(folder_, "template.txt");
   const std::string output_ = FileIn(folder_, "r\xC3\xA9sum\xC3\xA9.html");
   std::string value_ = "1";

@@ -5,13 +5,13 @@
 #include <fstream>
 #include <iterator>
 
+#include "TemporaryFolder.h"
+
 namespace corvane {
 namespace {
 
 class IniFile : public testing::Test {
  protected:
-  ~IniFile() override { std::filesystem::remove_all(file); }
-
   void Hold(const std::string& content) const { std::ofstream(file, std::ios::binary) << content; }
   std::string Content() const {
     std::ifstream in(file, std::ios::binary);
@@ -20,11 +20,8 @@ class IniFile : public testing::Test {
   std::string Read() const { return ReadIniValue("Options", "Startup Intro", "No", file); }
   bool Write() const { return WriteIniValue("Options", "Startup Intro", "Yes", file); }
 
-  // Tests run at the same time, each in a process of its own.
-  const std::filesystem::path file =
-      std::filesystem::path(testing::TempDir()) /
-      (std::string("corvane_") + testing::UnitTest::GetInstance()->current_test_info()->name() +
-       ".ini");
+  const TemporaryFolder folder;
+  const std::filesystem::path file = folder.Path() / "corvane.ini";
 };
 
 TEST_F(IniFile, WhatIsRead) {
