@@ -1,10 +1,8 @@
 #include <QApplication>
 
-#include "account/SessionRecord.h"
 #include "platform/Pictures.h"
 #include "platform/WebView.h"
 #include "windows/frame/WindowRegistry.h"
-#include "windows/start/DisclaimerWindow.h"
 
 int main(int argc, char** argv) {
   corvane::PrepareWebView();
@@ -13,8 +11,8 @@ int main(int argc, char** argv) {
   QApplication::setApplicationVersion(CORVANE_VERSION);
   QApplication::setWindowIcon(corvane::ProgramIcon());
 
-  corvane::SessionRecord session;
+  corvane::Session session;
   corvane::WindowRegistry windows(session);
-  windows.Show<corvane::DisclaimerWindow>();
+  windows.routes().ShowDisclaimer();
   return QApplication::exec();
 }

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "account/SessionRecord.h"
+#include "formulas/AccountTerms.h"
 #include "support/NumberText.h"
 
 namespace corvane {
@@ -52,23 +52,14 @@ inline std::vector<CaseRow> ReadCases(const std::string& name) {
   return rows;
 }
 
-/// A session with the account that a row describes.
-inline SessionRecord AccountOf(const CaseRow& row) {
-  SessionRecord session;
-  session.RoundingDigits = 15;
-  session.CompoundNone = row.Text("unit") == "none";
-  session.CompoundDays = row.Text("unit") == "days";
-  session.CompoundMonths = row.Text("unit") == "months";
-  session.CompoundYears = row.Text("unit") == "years";
-  session.CompoundingDays = row.Whole("n");
-  session.DaysInYear365 = row.Text("basis") == "365";
-  session.DaysInYear366 = row.Text("basis") == "366";
-  session.CountLeapDay = row.Text("leap") == "1";
-  session.ReqWdrwlNotReq = row.Text("withdrawal") == "none";
-  session.ReqWdrwlDays = row.Text("withdrawal") == "days";
-  session.ReqWdrwlMonths = row.Text("withdrawal") == "months";
-  session.DailyRateFactor = "1/" + row.Text("factor");
-  return session;
+/// The account that a row describes.
+inline AccountTerms TermsOf(const CaseRow& row) {
+  using enum Unit;
+  static const std::map<std::string, Unit> units = {
+      {"none", None}, {"days", Days}, {"months", Months}, {"years", Years}};
+  return {.compounding = {units.at(row.Text("unit")), row.Whole("n")},
+          .withdrawal = units.at(row.Text("withdrawal")),
+          .year = {row.Whole("basis"), row.Text("leap") == "1"}};
 }
 
 }  // namespace corvane

@@ -4,27 +4,16 @@
 
 namespace corvane {
 
-struct SessionRecord;
-
-/// The four identification texts that a setup window shows and the reports print.
+/// The four identification texts that the setup windows show and the reports print. Disclosures
+/// have no account number of their own.
 struct AccountHeader {
   std::string institution;
   std::string description;
   std::string holder;
   std::string number;
+
+  /// What stays for the next account of the same institution.
+  AccountHeader OfNextAccount() const { return {institution, "", "", ""}; }
 };
-
-enum class HeaderMode {
-  DisclosureSetup = 1,  ///< institution, description and holder
-  StatementSetup = 2,   ///< all four
-  ClearAll = 5,
-  KeepInstitution = 6,  ///< the institution stays, the other three are cleared
-};
-
-/// Stores the identification texts in the session record, or clears them, as the mode says.
-void CaptureUserInfo(SessionRecord& session, HeaderMode mode, const AccountHeader& fields = {});
-
-/// The stored texts, for a setup window to show.
-AccountHeader RestoreUserInfo(const SessionRecord& session);
 
 }  // namespace corvane

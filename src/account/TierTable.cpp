@@ -1,6 +1,5 @@
 #include "account/TierTable.h"
 
-#include "account/SessionRecord.h"
 #include "support/NumberText.h"
 
 namespace corvane {
@@ -21,18 +20,19 @@ TierRefusal Refuse(std::string text, const char* array, int index) {
 }
 
 std::optional<TierRefusal> CheckFirstTier(const TierTable& table) {
-  if (IsEmpty(table.txtInt.At(1))) return Refuse("Please input Interest Rate.", "txtInt", 1);
-  if (!IsNumeric(table.txtInt.At(1))) {
+  const auto& [rate, bound] = table.Of(1);
+  if (IsEmpty(rate)) return Refuse("Please input Interest Rate.", "txtInt", 1);
+  if (!IsNumeric(rate)) {
     return Refuse("Please enter integers and no decimals for Interest Rate.", "txtInt", 1);
   }
-  if (IsMissingBound(table.txt_bne.At(1)) || !IsNumeric(table.txt_bne.At(1))) {
+  if (IsMissingBound(bound) || !IsNumeric(bound)) {
     return Refuse("Please enter deposit balance for Tier 1", "txt_bne", 1);
   }
   return std::nullopt;
 }
 
 std::optional<TierRefusal> CheckRate(const TierTable& table, int tier) {
-  const std::string rate = table.txtInt.At(tier);
+  const std::string& rate = table.Of(tier).rate;
   if (IsEmpty(rate)) return Refuse("Please input Interest Rate", "txtInt", tier);
   if (IsNumeric(rate)) return std::nullopt;
   return Refuse("Please enter integers and no decimals for Interest Rate.", "txtInt", tier);
@@ -41,7 +41,7 @@ std::optional<TierRefusal> CheckRate(const TierTable& table, int tier) {
 /// The upper bound of the tier below, which a later tier starts from.
 std::optional<TierRefusal> CheckBoundBelow(const TierTable& table, int tier) {
   if (tier == kFewestTiers) return std::nullopt;
-  const std::string bound = table.txt_bne.At(tier - 1);
+  const std::string& bound = table.Of(tier - 1).notExceeding;
   const std::string place = std::to_string(tier) + ".";
   if (IsMissingBound(bound)) {
     return Refuse("Please input deposit balance for upto not exceeding tier " + place, "txt_bne",
@@ -53,11 +53,11 @@ std::optional<TierRefusal> CheckBoundBelow(const TierTable& table, int tier) {
 }
 
 std::optional<TierRefusal> CheckOrder(const TierTable& table, int tier) {
-  if (tier == table.tiers) return std::nullopt;
-  const std::string upper = table.txt_bne.At(tier);
+  if (tier == table.count) return std::nullopt;
+  const std::string& upper = table.Of(tier).notExceeding;
   // A bound that is missing or no number has a message of its own.
   const bool compares = !IsMissingBound(upper) && IsNumeric(upper);
-  if (!compares || NumericValue(table.txt_bne.At(tier - 1)) < NumericValue(upper)) {
+  if (!compares || NumericValue(table.Of(tier - 1).notExceeding) < NumericValue(upper)) {
     return std::nullopt;
   }
   auto refusal = Refuse("Each succeeding number must be larger than the previous", "txt_bne", tier);
@@ -65,45 +65,11 @@ std::optional<TierRefusal> CheckOrder(const TierTable& table, int tier) {
   return refusal;
 }
 
-/// Stores a value and tells whether it was another one before.
-bool Replace(Table<double>& stored, int index, double value) {
-  const bool changed = stored.At(index) != value;
-  stored.Set(index, value);
-  return changed;
-}
-
-bool StoreBoxes(const Table<std::string>& boxes, Table<double>& stored) {
-  bool changed = false;
-  for (int index = stored.First(); index <= stored.Last(); ++index) {
-    changed |= Replace(stored, index, NumericValue(boxes.At(index)));
-  }
-  return changed;
-}
-
-void ShowStored(const Table<double>& stored, std::string (*format)(double),
-                Table<std::string>& boxes) {
-  for (int index = stored.First(); index <= stored.Last(); ++index) {
-    const double value = stored.At(index);
-    boxes.Set(index, value == 0 ? "" : format(value));
-  }
-}
-
 }  // namespace
-
-std::string ElementName(const char* array, int index) {
-  return std::string(array) + "(" + std::to_string(index) + ")";
-}
-
-void FillLowerBounds(TierTable& table) {
-  for (int tier = kFewestTiers; tier <= table.tiers; ++tier) {
-    const std::string below(Trim(table.txt_bne.At(tier - 1)));
-    table.TxtAbove.Set(tier, FormatFixed2(NumericValue(below)));
-  }
-}
 
 std::optional<TierRefusal> CheckTierTable(const TierTable& table) {
   if (const auto refusal = CheckFirstTier(table)) return refusal;
-  for (int tier = kFewestTiers; tier <= table.tiers; ++tier) {
+  for (int tier = kFewestTiers; tier <= table.count; ++tier) {
     for (const auto check : {CheckRate, CheckBoundBelow, CheckOrder}) {
       if (const auto refusal = check(table, tier)) return refusal;
     }
@@ -111,44 +77,39 @@ std::optional<TierRefusal> CheckTierTable(const TierTable& table) {
   return std::nullopt;
 }
 
-void ClearUnusedTiers(TierTable& table) {
-  for (int tier = table.tiers; tier <= table.txt_bne.Last(); ++tier) table.txt_bne.Set(tier, "");
-  for (int tier = table.tiers + 1; tier <= kMostTiers; ++tier) {
-    table.txtInt.Set(tier, "");
-    table.TxtAbove.Set(tier, "");
+TierTable WithoutUnusedTiers(const TierTable& table) {
+  TierTable used{table.count, {}};
+  for (int tier = 1; tier <= table.count; ++tier) {
+    used.Of(tier).rate = table.Of(tier).rate;
+    if (tier < table.count) used.Of(tier).notExceeding = table.Of(tier).notExceeding;
   }
+  return used;
 }
 
-void StoreTierTable(SessionRecord& session, const TierTable& table) {
-  if (table.tiers == 0) return;
-  const bool boundsChanged = StoreBoxes(table.txt_bne, session.TierNotExceeding);
-  const bool aboveChanged = StoreBoxes(table.TxtAbove, session.TierAbove);
-  const bool ratesChanged = StoreBoxes(table.txtInt, session.TierRate);
-  if (boundsChanged || aboveChanged || ratesChanged) session.TierRecalc = true;
-  for (int tier = 1; tier <= session.TierSpan.Last(); ++tier) {
-    session.TierSpan.Set(tier, session.TierNotExceeding.At(tier) - session.TierAbove.At(tier));
+bool SameTiers(const TierTable& one, const TierTable& other) {
+  if (one.count != other.count) return false;
+  for (int tier = 1; tier <= kMostTiers; ++tier) {
+    const auto& [rate, bound] = one.Of(tier);
+    const auto& [otherRate, otherBound] = other.Of(tier);
+    const bool same = NumericValue(rate) == NumericValue(otherRate) &&
+                      NumericValue(bound) == NumericValue(otherBound);
+    if (!same) return false;
   }
-  session.TierFormLoaded = true;
-  session.TierCountSel = static_cast<std::int16_t>(table.tiers);
+  return true;
 }
 
-TierTable StoredTierTable(const SessionRecord& session) {
-  TierTable table;
-  table.tiers = session.TierCountSel;
-  ShowStored(session.TierRate, FormatRate, table.txtInt);
-  ShowStored(session.TierAbove, FormatFixed2, table.TxtAbove);
-  ShowStored(session.TierNotExceeding, FormatFixed2, table.txt_bne);
-  return table;
+std::vector<Tier> TiersOf(const TierTable& table) {
+  std::vector<Tier> tiers;
+  double above = 0;
+  for (int tier = 1; tier <= table.count; ++tier) {
+    tiers.push_back({above, NumericValue(table.Of(tier).rate)});
+    above = NumericValue(table.Of(tier).notExceeding);
+  }
+  return tiers;
 }
 
-void DropEntriesOfChangedTable(SessionRecord& session) {
-  if (!session.TierRecalc) return;
-  session.PeriodCount = 0;
-  session.EntryDataKept = false;
-}
-
-void EndDetailOfChangedTable(SessionRecord& session) {
-  if (session.TierRecalc) session.DetailData = false;
+std::string ElementName(const char* array, int index) {
+  return std::string(array) + "(" + std::to_string(index) + ")";
 }
 
 }  // namespace corvane

@@ -1,25 +1,32 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "account/Refusal.h"
-#include "account/Table.h"
+#include "formulas/AccountTerms.h"
 
 namespace corvane {
-
-struct SessionRecord;
 
 inline constexpr int kFewestTiers = 2;
 inline constexpr int kMostTiers = 10;
 
-/// The boxes of the tier window under the names of its controls. The last tier has no upper bound
-/// and the first no lower one.
+/// The tier table as it was typed. A tier's lower bound is the upper bound of the tier below it;
+/// the first tier has no lower bound and the last no upper one.
 struct TierTable {
-  int tiers = 0;  ///< 2 to 10, 0 while none is chosen
-  Table<std::string> txtInt{1, 10};
-  Table<std::string> TxtAbove{2, 10};
-  Table<std::string> txt_bne{1, 9};
+  struct Row {
+    std::string rate;          ///< percent a year
+    std::string notExceeding;  ///< currency, the upper bound
+  };
+
+  int count = 0;  ///< 2 to 10, 0 while none is chosen
+  std::array<Row, kMostTiers> rows;
+
+  /// The row of a tier, which counts from 1.
+  Row& Of(int tier) { return rows.at(static_cast<std::size_t>(tier - 1)); }
+  const Row& Of(int tier) const { return rows.at(static_cast<std::size_t>(tier - 1)); }
 };
 
 /// Why the table is refused, and whether the box that the refusal names is emptied.
@@ -28,28 +35,17 @@ struct TierRefusal {
   bool clearsBox = true;
 };
 
-/// Fills every lower bound with the upper bound of the tier below it.
-void FillLowerBounds(TierTable& table);
-
 /// The checks of Continue in their order.
 std::optional<TierRefusal> CheckTierTable(const TierTable& table);
 
-/// Empties the boxes that the chosen number of tiers has no use for.
-void ClearUnusedTiers(TierTable& table);
+/// The table without the texts that its number of tiers has no use for.
+TierTable WithoutUnusedTiers(const TierTable& table);
 
-/// Stores rates, bounds, widths and the number of tiers; empty boxes store 0. Sets TierRecalc when
-/// a stored value changed. Does nothing while no number of tiers is chosen.
-void StoreTierTable(SessionRecord& session, const TierTable& table);
+/// Whether two tables mean the same tiers, however their numbers were typed.
+bool SameTiers(const TierTable& one, const TierTable& other);
 
-/// The stored table as the boxes show it: rates with two to four decimals, bounds with two, a
-/// value of 0 as an empty box.
-TierTable StoredTierTable(const SessionRecord& session);
-
-/// Entries made for an earlier table are void once a stored value has changed.
-void DropEntriesOfChangedTable(SessionRecord& session);
-
-/// The interest by day of an earlier computation is not that of a changed table.
-void EndDetailOfChangedTable(SessionRecord& session);
+/// The tiers of a table, lowest first; what is no number counts as 0.
+std::vector<Tier> TiersOf(const TierTable& table);
 
 /// The name of an element of a field array: "txt_bne(3)".
 std::string ElementName(const char* array, int index);

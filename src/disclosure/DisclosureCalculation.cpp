@@ -1,55 +1,131 @@
 #include "disclosure/DisclosureCalculation.h"
 
-#include "account/SessionRecord.h"
+#include "account/DailyRateFactor.h"
 #include "disclosure/EntryChecks.h"
 #include "disclosure/EntrySequence.h"
-#include "disclosure/PeriodStore.h"
-#include "disclosure/SteppedCalculation.h"
-#include "disclosure/TieredCalculation.h"
-#include "formulas/RegularApy.h"
+#include "formulas/DisclosedYield.h"
 
 namespace corvane {
 
 namespace {
 
-constexpr std::int16_t kFirstPeriod = 1;
+using Result = Outcome<DisclosureResult>;
 
-std::optional<Refusal> ComputeRegular(SessionRecord& session) {
-  const PeriodFigures figures = UseStoredPeriod(session, session.PeriodCount);
-  double principal = figures.balance;
-  double term = figures.term;
-  return CalcRegularApy(session, figures.disclosedApy, figures.rate, principal, term,
-                        figures.factor, kFirstPeriod);
+Deposit DepositOf(const DisclosureEntry& entry) {
+  return {.balance = entry.txtBal.Value(),
+          .rate = entry.txtIntRateA.Value(),
+          .term = entry.txtTerm.Value(),
+          .factorDays = FactorDays(entry.txtDailyRateFactor.text).value_or(0),
+          .begin = BeginOf(entry),
+          .withdrawals = {entry.txtWdrwlPeriods.Value(), entry.txtBtwnReqIntWdrwl.Value()}};
 }
 
-std::optional<Refusal> Compute(SessionRecord& session) {
-  if (session.AcctStepped) return ComputeStepped(session);
-  if (session.AcctTierA) return ComputeTiersByMethodA(session);
-  if (session.AcctTierB) return ComputeTiersByMethodB(session);
-  return ComputeRegular(session);
+/// The row of an account or tier that is complete in itself.
+ResultRow RowOf(const DisclosureEntry& entry, int number, const Yield& yield) {
+  const double disclosed = entry.txtDiscAPY.Value();
+  return {.number = number,
+          .balance = entry.txtBal.Value(),
+          .rates = {entry.txtIntRateA.Value()},
+          .term = entry.txtTerm.Value(),
+          .interest = yield.interest,
+          .disclosedApy = disclosed,
+          .apy = yield.apy,
+          .verdict = CheckApy(disclosed, yield.apy)};
 }
 
-bool IsComputed(const SessionRecord& session) {
-  return !IsTiered(session) || session.PeriodCount == EntryCount(session);
+/// A regular account, or all tiers by method A.
+Result ComputeEach(const DisclosureCheck& check) {
+  DisclosureResult result;
+  int number = 0;
+  for (const DisclosureEntry& entry : check.entries) {
+    const Deposit deposit = DepositOf(entry);
+    const auto yield = RegularYield(TermsOf(check.setup), deposit);
+    if (const auto failure = FailureOf(yield)) return *failure;
+    result.rows.push_back(RowOf(entry, ++number, std::get<Yield>(yield)));
+    result.interest = result.rows.back().interest;
+    result.factorDays = deposit.factorDays;
+  }
+  return result;
 }
 
-AttemptOutcome CheckStoreAndCompute(SessionRecord& session, DisclosureEntry& entry) {
-  if (const auto refusal = CheckEntry(session, entry)) return {refusal};
-  if (const auto refusal = CheckCalendarTerm(session, entry)) return {refusal};
-  TakePeriodNumber(session, entry);
-  StoreEntry(session, session.PeriodCount, entry);
-  if (!IsComputed(session)) return {};
-  return {Compute(session), true};
+ResultRow PeriodRow(const DisclosureCheck& check, int number, double interest) {
+  const DisclosureEntry& period = check.entries.at(static_cast<std::size_t>(number - 1));
+  ResultRow row{.number = number,
+                .balance = std::nullopt,
+                .rates = {period.txtIntRateA.Value()},
+                .term = period.txtTerm.Value(),
+                .interest = interest,
+                .disclosedApy = check.entries.front().txtDiscAPY.Value(),
+                .apy = std::nullopt,
+                .verdict = std::nullopt};
+  if (number == 1) row.balance = period.txtBal.Value();
+  return row;
+}
+
+/// The completed periods of a stepped account, anew.
+Result ComputePeriods(const DisclosureCheck& check) {
+  std::vector<Deposit> periods;
+  for (int k = 0; k < check.completed; ++k) {
+    periods.push_back(DepositOf(check.entries.at(static_cast<std::size_t>(k))));
+  }
+  const auto computed = SteppedYieldOf(TermsOf(check.setup), periods.front().balance, periods);
+  if (const auto failure = FailureOf(computed)) return *failure;
+  const auto& [interest, whole] = std::get<SteppedYield>(computed);
+  DisclosureResult result{{}, whole.interest, periods.back().factorDays};
+  for (double ofPeriod : interest) {
+    const auto number = static_cast<int>(result.rows.size()) + 1;
+    result.rows.push_back(PeriodRow(check, number, ofPeriod));
+  }
+  ResultRow& newest = result.rows.back();
+  newest.apy = whole.apy;
+  newest.verdict = CheckApy(newest.disclosedApy, whole.apy);
+  return result;
+}
+
+/// Every tier end by method B. Term, factor and withdrawals were typed with the first entry and
+/// stand in all.
+Result ComputeTierEnds(const DisclosureCheck& check) {
+  const std::vector<Tier> tiers = TiersOf(check.tiers);
+  DisclosureResult result;
+  int number = 0;
+  for (const DisclosureEntry& entry : check.entries) {
+    const Deposit deposit = DepositOf(entry);
+    const auto yield = TieredYield(TermsOf(check.setup), tiers, deposit);
+    if (const auto failure = FailureOf(yield)) return *failure;
+    const int tier = TierOfEntry(++number);
+    ResultRow row = RowOf(entry, tier, std::get<Yield>(yield));
+    row.rates.clear();
+    for (int k = 0; k < tier; ++k) row.rates.push_back(tiers[static_cast<std::size_t>(k)].rate);
+    result.rows.push_back(row);
+    result.interest = row.interest;
+    result.factorDays = deposit.factorDays;
+  }
+  return result;
+}
+
+Result Compute(const DisclosureCheck& check) {
+  if (check.setup.kind == AccountKind::Stepped) return ComputePeriods(check);
+  if (check.setup.kind == AccountKind::TierB) return ComputeTierEnds(check);
+  return ComputeEach(check);
 }
 
 }  // namespace
 
-AttemptOutcome AttemptCalculation(SessionRecord& session, DisclosureEntry& entry) {
-  const std::int16_t before = session.PeriodCount;
-  session.PeriodCount = static_cast<std::int16_t>(before + 1);
-  const AttemptOutcome outcome = CheckStoreAndCompute(session, entry);
-  if (outcome.refusal) session.PeriodCount = before;
-  return outcome;
+AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry) {
+  check.result.reset();
+  auto refusal = CheckEntry(check, entry);
+  entry = Completed(check, entry);
+  if (refusal) return {std::move(refusal)};
+  KeepEntry(check, entry);
+  ++check.completed;
+  if (check.setup.IsTiered() && check.completed < EntryCount(check)) return {};
+  const Result computed = Compute(check);
+  if (const auto failure = FailureOf(computed)) {
+    --check.completed;
+    return {RefusalOf(*failure)};
+  }
+  check.result = std::get<DisclosureResult>(computed);
+  return {std::nullopt, true};
 }
 
 }  // namespace corvane

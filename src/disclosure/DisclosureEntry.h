@@ -1,53 +1,33 @@
 #pragma once
 
+#include <span>
 #include <string>
+
+#include "account/Field.h"
+#include "support/Dates.h"
 
 namespace corvane {
 
-/// One field of the entry window: what it shows and whether the person can type into it.
-struct EntryField {
-  std::string text;
-  bool enabled = true;
-};
-
-/// The entry window's fields under the names of its controls.
+/// The fields of the entry window under the names of its controls, in tab order: a regular account,
+/// a period of a stepped one, a tier, or an end of a tier.
 struct DisclosureEntry {
-  EntryField txtTierPerNum;
-  EntryField txtBeginMonth;
-  EntryField txtBeginYear;
-  EntryField txtDiscAPY;
-  EntryField txtBal;
-  EntryField txtIntRateA;
-  EntryField txtTerm;
-  EntryField txtDailyRateFactor;
-  EntryField tStartDate;
-  EntryField tEndDate;
-  EntryField txtWdrwlPeriods;
-  EntryField txtBtwnReqIntWdrwl;
-};
+  Field txtTierPerNum;  ///< number of periods or tiers
+  Field txtBeginMonth;
+  Field txtBeginYear;
+  Field txtDiscAPY;   ///< percent
+  Field txtBal;       ///< currency
+  Field txtIntRateA;  ///< percent a year
+  Field txtTerm;      ///< days or compounding periods; empty or 0 leaves the counting to the dates
+  Field txtDailyRateFactor;
+  Field tStartDate{.text = std::string(kEmptyDateMask)};
+  Field tEndDate{.text = std::string(kEmptyDateMask)};
+  Field txtWdrwlPeriods;     ///< W
+  Field txtBtwnReqIntWdrwl;  ///< M, or N where interest is withdrawn every so many days
 
-/// Each field with its control name, in tab order.
-struct EntryFieldName {
-  const char* name;
-  EntryField DisclosureEntry::*field;
-};
+  static std::span<const FieldName<DisclosureEntry>> Fields();
+  static std::span<const OptionName<DisclosureEntry>> Options() { return {}; }
 
-inline constexpr EntryFieldName kEntryFields[] = {
-    {"txtTierPerNum", &DisclosureEntry::txtTierPerNum},
-    {"txtBeginMonth", &DisclosureEntry::txtBeginMonth},
-    {"txtBeginYear", &DisclosureEntry::txtBeginYear},
-    {"txtDiscAPY", &DisclosureEntry::txtDiscAPY},
-    {"txtBal", &DisclosureEntry::txtBal},
-    {"txtIntRateA", &DisclosureEntry::txtIntRateA},
-    {"txtTerm", &DisclosureEntry::txtTerm},
-    {"txtDailyRateFactor", &DisclosureEntry::txtDailyRateFactor},
-    {"tStartDate", &DisclosureEntry::tStartDate},
-    {"tEndDate", &DisclosureEntry::tEndDate},
-    {"txtWdrwlPeriods", &DisclosureEntry::txtWdrwlPeriods},
-    {"txtBtwnReqIntWdrwl", &DisclosureEntry::txtBtwnReqIntWdrwl},
+  bool IsOpen(const char* control) const { return corvane::IsOpen(*this, control); }
 };
-
-/// The control name of a field.
-const char* NameOf(EntryField DisclosureEntry::*field);
 
 }  // namespace corvane

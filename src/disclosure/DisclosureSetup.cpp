@@ -1,132 +1,165 @@
 #include "disclosure/DisclosureSetup.h"
 
+#include <algorithm>
 #include <set>
 
-#include "account/SessionRecord.h"
-#include "account/SessionStart.h"
-#include "support/NumberText.h"
+#include "account/OrderedChecks.h"
+#include "support/Rounding.h"
 
 namespace corvane {
 
 namespace {
 
+using Setup = DisclosureSetup;
+
 constexpr const char* kInterval = "txtDailyCompounding";
 
-bool HasNoAccountType(const AccountSetup& setup) {
-  return !setup.optRegNoDisc && !setup.optStepRate && !setup.optTierA && !setup.optTierB;
+constexpr FieldName<Setup> kFields[] = {{kInterval, &Setup::txtDailyCompounding}};
+
+template <Unit AUnit>
+constexpr OptionName<Setup> CompoundingOption(const char* control) {
+  return {control, [](const Setup& setup) { return setup.compounding == AUnit; },
+          [](Setup& setup) { ChooseCompounding(setup, AUnit); }};
 }
 
-/// A text that is no number is not refused: it becomes 0, which every computation takes as 1.
-bool HasIntervalText(const AccountSetup& setup) {
-  return !setup.optICNone && IsNumeric(setup.txtDailyCompounding);
+template <int Days>
+constexpr OptionName<Setup> YearOption(const char* control) {
+  return {control, [](const Setup& setup) { return setup.year.days == Days; },
+          [](Setup& setup) { ChooseYearDays(setup, Days); }};
 }
 
-bool HasUnusableInterval(const AccountSetup& setup) {
-  if (!HasIntervalText(setup)) return false;
-  const auto interval = WholeNumber(setup.txtDailyCompounding);
-  return !interval || *interval < 0;
+template <bool Counts>
+constexpr OptionName<Setup> LeapDayOption(const char* control) {
+  return {control, [](const Setup& setup) { return setup.year.countsLeapDay == Counts; },
+          [](Setup& setup) { setup.year.countsLeapDay = Counts; }};
 }
 
-bool HasUnknownMonths(const AccountSetup& setup) {
-  // The periods per year, 12 / N, are defined for these only.
-  static const std::set<std::int16_t> months = {1, 2, 3, 4, 6, 12};
-  return setup.optICMonths && HasIntervalText(setup) &&
-         !months.contains(*WholeNumber(setup.txtDailyCompounding));
-}
-
-bool HasMonthlyWithdrawalsOfLongPeriods(const AccountSetup& setup) {
-  return setup.optICDays && setup.optRIMonths && HasIntervalText(setup) &&
-         *WholeNumber(setup.txtDailyCompounding) > 1;
-}
-
-struct SetupCheck {
-  bool (*fails)(const AccountSetup&);
-  const char* message;
-  const char* field;
-  MessageIcon icon;
+constexpr OptionName<Setup> kOptions[] = {
+    CompoundingOption<Unit::None>("optICNone"),
+    CompoundingOption<Unit::Days>("optICDays"),
+    CompoundingOption<Unit::Months>("optICMonths"),
+    CompoundingOption<Unit::Years>("optICYears"),
+    PlainOption<&Setup::kind, AccountKind::Regular, Setup>("optRegNoDisc"),
+    PlainOption<&Setup::kind, AccountKind::Stepped, Setup>("optStepRate"),
+    PlainOption<&Setup::kind, AccountKind::TierA, Setup>("optTierA"),
+    PlainOption<&Setup::kind, AccountKind::TierB, Setup>("optTierB"),
+    PlainOption<&Setup::withdrawal, Unit::None, Setup>("optRINotReq"),
+    PlainOption<&Setup::withdrawal, Unit::Days, Setup>("OptRIDays"),
+    PlainOption<&Setup::withdrawal, Unit::Months, Setup>("optRIMonths"),
+    YearOption<365>("optDY365"),
+    YearOption<366>("optDY366"),
+    LeapDayOption<true>("optLYYes"),
+    LeapDayOption<false>("optLYNo"),
 };
 
-constexpr SetupCheck kSetupChecks[] = {
-    {HasNoAccountType, "Please select an Account Type.", "", MessageIcon::None},
-    {HasUnusableInterval, "Please enter a valid compounding interval.", kInterval,
-     MessageIcon::Exclamation},
-    {HasUnknownMonths, "Months between compounding must be 1, 2, 3, 4, 6 or 12.", kInterval,
-     MessageIcon::Exclamation},
-    {HasMonthlyWithdrawalsOfLongPeriods,
-     "Withdrawals measured in months need compounding every day or by months.", kInterval,
-     MessageIcon::Exclamation},
+/// The interval as a whole number; nothing where it is not read: without compounding, and for a
+/// text that is no number, which is not refused but counts as 1.
+std::optional<double> Interval(const Setup& setup) {
+  if (setup.compounding == Unit::None || !setup.txtDailyCompounding.IsNumber()) return std::nullopt;
+  return RoundToDecimals(setup.txtDailyCompounding.Value(), 0);
+}
+
+bool Everyone(const Setup&) {
+  return true;
+}
+bool HasInterval(const Setup& setup) {
+  return Interval(setup).has_value();
+}
+bool HasIntervalOfMonths(const Setup& setup) {
+  return HasInterval(setup) && setup.compounding == Unit::Months;
+}
+bool WithdrawsMonthlyFromDays(const Setup& setup) {
+  return HasInterval(setup) && setup.compounding == Unit::Days && setup.withdrawal == Unit::Months;
+}
+bool IsMethodB(const Setup& setup) {
+  return setup.kind == AccountKind::TierB;
+}
+bool IsNoInterval(const Setup& setup) {
+  return !(*Interval(setup) >= 0 && *Interval(setup) <= INT16_MAX);
+}
+bool IsNoPartOfAYear(const Setup& setup) {
+  // The periods per year, 12 / N, are defined for these only.
+  static const std::set<double> months = {1, 2, 3, 4, 6, 12};
+  return !months.contains(*Interval(setup));
+}
+
+constexpr OrderedCheck<Setup> kChecks[] = {
+    {Everyone, [](const Setup& s) { return !s.kind; }, "Please select an Account Type.", "",
+     MessageIcon::None},
+    {HasInterval, IsNoInterval, "Please enter a valid compounding interval.", kInterval},
+    {HasIntervalOfMonths, IsNoPartOfAYear,
+     "Months between compounding must be 1, 2, 3, 4, 6 or 12.", kInterval},
+    {WithdrawsMonthlyFromDays, [](const Setup& s) { return *Interval(s) > 1; },
+     "Withdrawals measured in months need compounding every day or by months.", kInterval},
+    {IsMethodB,
+     [](const Setup& s) { return s.compounding == Unit::Months && s.withdrawal == Unit::Months; },
+     "Months/Months is not in production yet", ""},
 };
 
 }  // namespace
 
-std::optional<Refusal> CheckSetup(const AccountSetup& setup) {
-  for (const SetupCheck& check : kSetupChecks) {
-    if (check.fails(setup)) return Refusal{check.message, check.field, kKeyEntryError, check.icon};
+std::span<const FieldName<Setup>> Setup::Fields() {
+  return kFields;
+}
+
+std::span<const OptionName<Setup>> Setup::Options() {
+  return kOptions;
+}
+
+void ChooseCompounding(Setup& setup, Unit unit) {
+  setup.compounding = unit;
+  if (unit != Unit::None) setup.txtDailyCompounding.text = "1";
+  // Withdrawals are measured anew, but days offer what was chosen already.
+  if (unit != Unit::Days) setup.withdrawal = Unit::None;
+  const bool keepsLeapDay = setup.year.days == 365 && unit != Unit::Days && unit != Unit::None;
+  setup.year = {365, keepsLeapDay && setup.year.countsLeapDay};
+}
+
+void ChooseYearDays(Setup& setup, int days) {
+  setup.year = {days, days == 366};
+}
+
+Setup EmptiedSetup(Setup setup) {
+  ChooseCompounding(setup, Unit::None);
+  setup.txtDailyCompounding.text.clear();
+  return setup;
+}
+
+SetupGroups GroupsOf(const Setup& setup) {
+  const bool byDaysOrMonths = setup.compounding == Unit::Days || setup.compounding == Unit::Months;
+  return {.interval = setup.compounding != Unit::None,
+          .year = setup.compounding != Unit::Years,
+          .withdrawal = byDaysOrMonths,
+          .withdrawalByDays = setup.compounding == Unit::Days};
+}
+
+IntervalCaptions CaptionsOf(const Setup& setup) {
+  switch (setup.compounding) {
+    case Unit::None:
+      return {};
+    case Unit::Days:
+      return {"Number Of Days Between Compounding       :", "( e.g., 1 = Daily Compounding )"};
+    case Unit::Months:
+      return {"Number Of Months Between Compounding   :",
+              "( e.g., 1 = Monthly   3 = Quarterly   6 = Semi-Annually )"};
+    case Unit::Years:
+      return {"Number Of Years Between Compounding      :", "( e.g.,  1 = 365 Days )"};
   }
-  return std::nullopt;
+  return {};
 }
 
-void StoreSetup(SessionRecord& session, AccountSetup& setup) {
-  session.PeriodCount = 0;
-  if (!IsNumeric(setup.txtDailyCompounding)) setup.txtDailyCompounding = "0";
-  session.CompoundNone = setup.optICNone;
-  session.CompoundDays = setup.optICDays;
-  session.CompoundMonths = setup.optICMonths;
-  session.CompoundYears = setup.optICYears;
-  session.AcctRegular = setup.optRegNoDisc;
-  session.AcctStepped = setup.optStepRate;
-  session.AcctTierA = setup.optTierA;
-  session.AcctTierB = setup.optTierB;
-  session.ReqWdrwlNotReq = setup.optRINotReq;
-  session.ReqWdrwlDays = setup.OptRIDays;
-  session.ReqWdrwlMonths = setup.optRIMonths;
-  session.CompoundingDays = WholeNumber(setup.txtDailyCompounding).value_or(0);
-  session.RoundNotTruncate = true;
-  session.DaysInYear365 = setup.optDY365;
-  session.DaysInYear366 = setup.optDY366;
+std::optional<Refusal> CheckSetup(const Setup& setup) {
+  return FirstFailure<Setup>(kChecks, setup);
 }
 
-bool KeepsEntry(const SessionRecord& session) {
-  return session.EntryDataKept && session.AcctTypeCode == session.PrevAcctTypeCode;
+int PeriodLength(const Setup& setup) {
+  return std::max(1, static_cast<int>(Interval(setup).value_or(1)));
 }
 
-std::optional<Refusal> CheckMonthsByMonths(const SessionRecord& session) {
-  if (!session.CompoundMonths || !session.ReqWdrwlMonths || !session.AcctTierB) return std::nullopt;
-  return Refusal{"Months/Months is not in production yet", ""};
-}
-
-std::optional<Refusal> StoreDaysInYear(SessionRecord& session, AccountSetup& setup) {
-  const bool forcesCount = setup.optDY366 && setup.optLYNo;
-  if (setup.optDY366) {
-    setup.optLYYes = true;
-    setup.optLYNo = false;
-  }
-  session.DaysInYear = setup.optDY366 ? 366.0 : 365.0;
-  session.CountLeapDay = setup.optLYYes;
-  if (!forcesCount) return std::nullopt;
-  return Refusal{"Count 2/29 will be changed to Yes, No is not allowed for 366 days.", "",
-                 kKeyEntryError, MessageIcon::None};
-}
-
-void ForgetEntries(SessionRecord& session) {
-  session.EntryDataKept = false;
-  session.TierFormLoaded = false;
-  session.TierPeriodCounter = 0;
-  session.EntryNavState = 0;
-  session.PeriodCount = 0;
-  ClearTierTables(session);
-}
-
-void ResetForNewAccount(SessionRecord& session) {
-  ForgetEntries(session);
-  session.TierNumber = 0;
-  session.PeriodNumber = 0;
-  session.PrevAcctTypeCode = 1;
-  session.CompoundNone = true;
-  session.CompoundDays = false;
-  session.CompoundMonths = false;
-  session.CompoundYears = false;
-  session.TierPeriodCounter = 1;
+AccountTerms TermsOf(const Setup& setup) {
+  return {.compounding = {setup.compounding, PeriodLength(setup)},
+          .withdrawal = setup.withdrawal,
+          .year = setup.year};
 }
 
 }  // namespace corvane

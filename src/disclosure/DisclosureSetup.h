@@ -1,57 +1,60 @@
 #pragma once
 
 #include <optional>
-#include <string>
+#include <span>
 
+#include "account/Field.h"
 #include "account/Refusal.h"
+#include "formulas/AccountTerms.h"
 
 namespace corvane {
 
-struct SessionRecord;
+/// What the disclosure setup says of the account. A new one is what the main menu starts with: a
+/// regular account with daily compounding and a year of 365 days.
+struct DisclosureSetup {
+  std::optional<AccountKind> kind = AccountKind::Regular;
+  Unit compounding = Unit::Days;
+  Field txtDailyCompounding{.text = "1"};  ///< units between compoundings
+  Unit withdrawal = Unit::None;            ///< None, Days or Months
+  YearRule year;
 
-/// The choices of the disclosure setup window, under the names of its controls.
-struct AccountSetup {
-  bool optICNone = false;
-  bool optICDays = false;
-  bool optICMonths = false;
-  bool optICYears = false;
-  bool optRegNoDisc = false;
-  bool optStepRate = false;
-  bool optTierA = false;
-  bool optTierB = false;
-  bool optRINotReq = false;
-  bool OptRIDays = false;
-  bool optRIMonths = false;
-  bool optDY365 = false;
-  bool optDY366 = false;
-  bool optLYYes = false;
-  bool optLYNo = false;
-  std::string txtDailyCompounding;
+  static std::span<const FieldName<DisclosureSetup>> Fields();
+  static std::span<const OptionName<DisclosureSetup>> Options();
+
+  bool IsOpen(const char*) const { return true; }
+  bool IsTiered() const { return kind && corvane::IsTiered(*kind); }
 };
 
-/// Why Continue must not go on with these choices; nothing is stored then.
-std::optional<Refusal> CheckSetup(const AccountSetup& setup);
+// What choosing an option does to the rest of the setup.
+void ChooseCompounding(DisclosureSetup& setup, Unit unit);
+void ChooseYearDays(DisclosureSetup& setup, int days);
 
-/// Stores account type, compounding, withdrawals and year basis, and sets PeriodCount to 0. An
-/// interval whose text is no number becomes "0" in the choices too.
-void StoreSetup(SessionRecord& session, AccountSetup& setup);
+/// New Account of the setup window: no compounding and an empty interval in a year of 365 days.
+DisclosureSetup EmptiedSetup(DisclosureSetup setup);
 
-/// Whether the entry window still fits the account: same account type as at the last Continue that
-/// rebuilt it, with its data kept.
-bool KeepsEntry(const SessionRecord& session);
+/// Which groups of the setup window show.
+struct SetupGroups {
+  bool interval = false;
+  bool year = false;        ///< days in the year and 29 February
+  bool withdrawal = false;  ///< measurement of required withdrawals
+  bool withdrawalByDays = false;
+};
+SetupGroups GroupsOf(const DisclosureSetup& setup);
 
-/// The one stored combination that no formula serves: months between compoundings and between
-/// withdrawals on an account tiered by method B.
-std::optional<Refusal> CheckMonthsByMonths(const SessionRecord& session);
+/// lblDailyCompounding and lblCompoundingNotes; empty where the interval does not show.
+struct IntervalCaptions {
+  const char* label = "";
+  const char* note = "";
+};
+IntervalCaptions CaptionsOf(const DisclosureSetup& setup);
 
-/// Stores days in the year and whether 29 February counts. A 366-day year always counts it; the
-/// notice says so when the choice was "No", which then becomes "Yes".
-std::optional<Refusal> StoreDaysInYear(SessionRecord& session, AccountSetup& setup);
+/// Why Continue must not go on with these choices.
+std::optional<Refusal> CheckSetup(const DisclosureSetup& setup);
 
-/// Drops what was entered for an account: kept entries, the tier table and the counters over them.
-void ForgetEntries(SessionRecord& session);
+/// N as the entries mean it: 1 without compounding and for an interval below 1.
+int PeriodLength(const DisclosureSetup& setup);
 
-/// What New Account resets in the record; the institution is the caller's to keep.
-void ResetForNewAccount(SessionRecord& session);
+/// What holds for the whole account, as the formulas take it.
+AccountTerms TermsOf(const DisclosureSetup& setup);
 
 }  // namespace corvane

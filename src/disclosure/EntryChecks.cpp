@@ -2,13 +2,11 @@
 
 #include <cmath>
 
-#include "account/SessionRecord.h"
-#include "disclosure/EntrySequence.h"
+#include "account/DailyRateFactor.h"
+#include "account/OrderedChecks.h"
 #include "disclosure/EntryTerm.h"
-#include "formulas/DailyRateFactor.h"
-#include "formulas/RoundValue.h"
 #include "formulas/TermCounting.h"
-#include "support/NumberText.h"
+#include "support/Rounding.h"
 
 namespace corvane {
 
@@ -21,19 +19,17 @@ constexpr double kMostYears = 50;
 
 /// What the checks look at.
 struct Checked {
-  const SessionRecord& session;
+  const DisclosureCheck& check;
   const DisclosureEntry& entry;
   EntryTerm term;
 
-  double Value(EntryField DisclosureEntry::*field) const {
-    return NumericValue((entry.*field).text);
-  }
-  bool IsNumber(EntryField DisclosureEntry::*field) const { return IsNumeric((entry.*field).text); }
-  double W() const { return Value(&DisclosureEntry::txtWdrwlPeriods); }
-  double M() const { return Value(&DisclosureEntry::txtBtwnReqIntWdrwl); }
+  const DisclosureSetup& Setup() const { return check.setup; }
+  Unit Compounding() const { return check.setup.compounding; }
+  Unit Withdrawal() const { return check.setup.withdrawal; }
+  double W() const { return entry.txtWdrwlPeriods.Value(); }
+  double M() const { return entry.txtBtwnReqIntWdrwl.Value(); }
+  bool IsOpen(const char* control) const { return entry.IsOpen(control); }
 };
-
-using Condition = bool (*)(const Checked&);
 
 // Who takes part.
 
@@ -41,67 +37,72 @@ bool Everyone(const Checked&) {
   return true;
 }
 bool Stepped(const Checked& c) {
-  return c.session.AcctStepped;
+  return c.Setup().kind == AccountKind::Stepped;
 }
 bool Tiered(const Checked& c) {
-  return IsTiered(c.session);
+  return c.Setup().IsTiered();
 }
 bool TieredB(const Checked& c) {
-  return c.session.AcctTierB;
+  return c.Setup().kind == AccountKind::TierB;
 }
 bool ByCalendar(const Checked& c) {
   return c.term.fromCalendar;
 }
 bool WithCalendar(const Checked& c) {
-  return HasCalendar(c.session);
+  return HasCalendar(c.Setup());
 }
 bool ByYears(const Checked& c) {
-  return c.session.CompoundYears;
+  return c.Compounding() == Unit::Years;
 }
 bool Withdrawing(const Checked& c) {
-  return c.session.ReqWdrwlDays || c.session.ReqWdrwlMonths;
+  return c.Withdrawal() != Unit::None;
 }
 bool DaysWithdrawnByDays(const Checked& c) {
-  return c.session.CompoundDays && c.session.ReqWdrwlDays;
+  return c.Compounding() == Unit::Days && c.Withdrawal() == Unit::Days;
 }
 bool DaysWithdrawnByDaysInKnownTerm(const Checked& c) {
   return DaysWithdrawnByDays(c) && c.term.periods;
 }
 bool DaysWithdrawnByMonthsInKnownTerm(const Checked& c) {
-  return c.session.CompoundDays && c.session.ReqWdrwlMonths && c.term.periods;
+  return c.Compounding() == Unit::Days && c.Withdrawal() == Unit::Months && c.term.periods;
 }
 bool OthersWithdrawnByMonths(const Checked& c) {
-  return !c.session.CompoundDays && c.session.ReqWdrwlMonths;
+  return c.Compounding() != Unit::Days && c.Withdrawal() == Unit::Months;
 }
 bool ByDaysOrMonths(const Checked& c) {
-  return c.session.CompoundDays || c.session.CompoundMonths;
+  return c.Compounding() == Unit::Days || c.Compounding() == Unit::Months;
 }
 bool ByDaysOrMonthsWithoutWithdrawal(const Checked& c) {
   return ByDaysOrMonths(c) && !Withdrawing(c);
 }
 bool YearOf365(const Checked& c) {
-  return c.session.DaysInYear365;
+  return c.Setup().year.days == 365;
 }
 bool LeapDayLeftOut(const Checked& c) {
-  return !c.session.CountLeapDay;
+  return !c.Setup().year.countsLeapDay;
 }
 bool LeapDayCounted(const Checked& c) {
-  return c.session.CountLeapDay;
+  return c.Setup().year.countsLeapDay;
 }
 
 // What is wrong.
 
-template <EntryField DisclosureEntry::*Field>
+template <Field DisclosureEntry::*AField>
 bool NotNumeric(const Checked& c) {
-  return !c.IsNumber(Field);
+  return !(c.entry.*AField).IsNumber();
+}
+bool IsNoPeriodNumber(const Field& number) {
+  return !IsWhole(number.Value()) || number.Value() < 2 || number.Value() > 10;
 }
 bool CountOutside2To10(const Checked& c) {
-  const double count = c.Value(&DisclosureEntry::txtTierPerNum);
-  return !IsWhole(count) || count < 2 || count > 10;
+  return IsNoPeriodNumber(c.entry.txtTierPerNum);
+}
+bool IsNoMonth(const Field& month) {
+  const auto number = WholeNumber(month.text);
+  return !number || *number < 1 || *number > 12;
 }
 bool MonthOutsideYear(const Checked& c) {
-  const auto month = WholeNumber(c.entry.txtBeginMonth.text);
-  return !month || *month < 1 || *month > 12;
+  return IsNoMonth(c.entry.txtBeginMonth);
 }
 bool YearIsNoYear(const Checked& c) {
   const auto year = WholeNumber(c.entry.txtBeginYear.text);
@@ -111,7 +112,7 @@ bool YearBefore1901(const Checked& c) {
   return *WholeNumber(c.entry.txtBeginYear.text) < kFirstYear;
 }
 bool BalanceNotAboveZero(const Checked& c) {
-  return c.Value(&DisclosureEntry::txtBal) <= 0;
+  return c.entry.txtBal.Value() <= 0;
 }
 bool StartDateInvalid(const Checked& c) {
   return !ParseDate(c.entry.tStartDate.text);
@@ -119,13 +120,13 @@ bool StartDateInvalid(const Checked& c) {
 bool TermUnusable(const Checked& c) {
   // Dates that cannot be counted yet have messages of their own.
   const bool waitsForDates = c.term.fromCalendar && !c.term.calendarDays;
-  return !waitsForDates && !IsUsableTerm(c.session, c.term);
+  return !waitsForDates && !IsUsableTerm(c.Setup(), c.term);
 }
 bool TermAbove50(const Checked& c) {
   return c.term.periods > kMostYears;
 }
 bool DistanceNotWhole(const Checked& c) {
-  return !c.IsNumber(&DisclosureEntry::txtBtwnReqIntWdrwl) || !IsWhole(c.M());
+  return !c.entry.txtBtwnReqIntWdrwl.IsNumber() || !IsWhole(c.M());
 }
 bool NoWithdrawal(const Checked& c) {
   return c.W() < 1;
@@ -137,26 +138,23 @@ bool TermNotDividedByWithdrawals(const Checked& c) {
   return c.W() == 0 || !IsWhole(*c.term.periods / c.W());
 }
 bool DistanceIsNotPeriodLength(const Checked& c) {
-  return c.M() != PeriodLength(c.session);
+  return c.M() != PeriodLength(c.Setup());
 }
 bool WithdrawalMonthsDoNotFillTerm(const Checked& c) {
   if (c.W() * c.M() > kMostWithdrawalMonths) return true;
-  const double days =
-      CountMonthPeriodDays(WholeNumber(c.entry.txtBeginMonth.text).value_or(1),
-                           WholeNumber(c.entry.txtBeginYear.text).value_or(kFirstYear), c.W(),
-                           c.M(), c.session.CountLeapDay);
-  return days != PeriodLength(c.session) * *c.term.periods;
+  const double days = MonthPeriodDays(BeginOf(c.entry), c.W(), c.M(), c.Setup().year.countsLeapDay);
+  return days != PeriodLength(c.Setup()) * *c.term.periods;
 }
 bool WithdrawalsUnusable(const Checked& c) {
-  const bool tooMany = c.session.ReqWdrwlMonths && c.W() * c.M() > kMostWithdrawalMonths;
-  return !c.IsNumber(&DisclosureEntry::txtWdrwlPeriods) || !IsWhole(c.W()) || tooMany;
+  const bool tooMany = c.Withdrawal() == Unit::Months && c.W() * c.M() > kMostWithdrawalMonths;
+  return !c.entry.txtWdrwlPeriods.IsNumber() || !IsWhole(c.W()) || tooMany;
 }
 bool WithdrawalsDifferFromPeriodLength(const Checked& c) {
-  return c.W() != PeriodLength(c.session);
+  return c.W() != PeriodLength(c.Setup());
 }
 /// By method B the person types one balance only, which lies in the tier without an upper bound.
 bool BalanceNotInLastTier(const Checked& c) {
-  return c.Value(&DisclosureEntry::txtBal) <= c.session.TierAbove.At(c.session.TotalTiers);
+  return c.entry.txtBal.Value() <= TiersOf(c.check.tiers).back().above;
 }
 std::optional<int> DaysFromStartToEnd(const Checked& c) {
   const auto start = ParseDate(c.entry.tStartDate.text);
@@ -169,70 +167,43 @@ bool DatesEqual(const Checked& c) {
 bool EndBeforeStart(const Checked& c) {
   return DaysFromStartToEnd(c).value_or(0) < 0;
 }
-double Denominator(const Checked& c) {
-  return FactorDenominator(c.entry.txtDailyRateFactor.text).value_or(0);
+std::optional<double> Denominator(const Checked& c) {
+  return FactorDays(c.entry.txtDailyRateFactor.text);
 }
-bool FactorMalformed(const Checked& c) {
-  const bool isOneOver = c.entry.txtDailyRateFactor.text.starts_with("1/");
-  return !isOneOver || Denominator(c) < 1 || !IsWhole(Denominator(c));
-}
-bool FactorIs366(const Checked& c) {
-  return Denominator(c) == 366;
-}
-bool FactorAbove365(const Checked& c) {
-  return Denominator(c) > 365;
-}
-bool FactorAbove366(const Checked& c) {
-  return Denominator(c) > 366;
-}
-bool EmptyStart(const Checked& c) {
-  return c.entry.tStartDate.text == kEmptyDateMask || c.entry.tStartDate.text.empty();
-}
-bool EmptyEnd(const Checked& c) {
-  return c.entry.tEndDate.text == kEmptyDateMask || c.entry.tEndDate.text.empty();
+bool EndDateEmpty(const Checked& c) {
+  return c.entry.tEndDate.text == kEmptyDateMask;
 }
 bool EndDateInvalid(const Checked& c) {
   return !ParseDate(c.entry.tEndDate.text);
 }
-bool SlashIsNotSecond(const Checked& c) {
-  return c.entry.txtDailyRateFactor.text.find('/') != 1;
-}
-
-struct EntryCheck {
-  Condition takesPart;
-  Condition fails;
-  const char* message;
-  EntryField DisclosureEntry::*field;
-};
-
-constexpr auto kPeriods = &DisclosureEntry::txtTierPerNum;
-constexpr auto kMonth = &DisclosureEntry::txtBeginMonth;
-constexpr auto kYear = &DisclosureEntry::txtBeginYear;
-constexpr auto kApy = &DisclosureEntry::txtDiscAPY;
-constexpr auto kBalance = &DisclosureEntry::txtBal;
-constexpr auto kRate = &DisclosureEntry::txtIntRateA;
-constexpr auto kTerm = &DisclosureEntry::txtTerm;
-constexpr auto kFactor = &DisclosureEntry::txtDailyRateFactor;
-constexpr auto kStart = &DisclosureEntry::tStartDate;
-constexpr auto kEnd = &DisclosureEntry::tEndDate;
-constexpr auto kWithdrawals = &DisclosureEntry::txtWdrwlPeriods;
-constexpr auto kDistance = &DisclosureEntry::txtBtwnReqIntWdrwl;
 
 constexpr const char* kPeriodRange = "Please enter the period numbers from 2 to 10 only.";
-constexpr const char* kTierRange = "Please enter a Tier number from 2 to 10 only.";
+constexpr const char* kPeriods = "txtTierPerNum";
+constexpr const char* kBalance = "txtBal";
+constexpr const char* kTerm = "txtTerm";
+constexpr const char* kFactor = "txtDailyRateFactor";
+constexpr const char* kStart = "tStartDate";
+constexpr const char* kEnd = "tEndDate";
+constexpr const char* kWithdrawals = "txtWdrwlPeriods";
+constexpr const char* kDistance = "txtBtwnReqIntWdrwl";
 
-constexpr EntryCheck kEntryChecks[] = {
-    {Stepped, NotNumeric<kPeriods>, "Please enter a valid period number value", kPeriods},
+constexpr OrderedCheck<Checked> kChecks[] = {
+    {Stepped, NotNumeric<&DisclosureEntry::txtTierPerNum>,
+     "Please enter a valid period number value", kPeriods},
     {Stepped, CountOutside2To10, kPeriodRange, kPeriods},
-    {Tiered, NotNumeric<kPeriods>, "Please enter a valid Tier Number value", kPeriods},
-    {Tiered, CountOutside2To10, kTierRange, kPeriods},
-    {Everyone, MonthOutsideYear, "Please enter a valid Beginning Month value", kMonth},
-    {Everyone, YearIsNoYear, "Please enter a valid Beginning Year value.", kYear},
-    {Everyone, YearBefore1901, "Please enter a Year value above 1900.", kYear},
-    {Everyone, NotNumeric<kApy>, "Please enter a valid Disclosed APY value", kApy},
-    {Everyone, NotNumeric<kBalance>, "Please enter a valid Principal Balance Amount", kBalance},
+    {Tiered, NotNumeric<&DisclosureEntry::txtTierPerNum>, "Please enter a valid Tier Number value",
+     kPeriods},
+    {Tiered, CountOutside2To10, "Please enter a Tier number from 2 to 10 only.", kPeriods},
+    {Everyone, MonthOutsideYear, "Please enter a valid Beginning Month value", "txtBeginMonth"},
+    {Everyone, YearIsNoYear, "Please enter a valid Beginning Year value.", "txtBeginYear"},
+    {Everyone, YearBefore1901, "Please enter a Year value above 1900.", "txtBeginYear"},
+    {Everyone, NotNumeric<&DisclosureEntry::txtDiscAPY>, "Please enter a valid Disclosed APY value",
+     "txtDiscAPY"},
+    {Everyone, NotNumeric<&DisclosureEntry::txtBal>,
+     "Please enter a valid Principal Balance Amount", kBalance},
     {Everyone, BalanceNotAboveZero, "Please enter a valid Principal Balance Amount", kBalance},
-    {Everyone, NotNumeric<kRate>, "Please enter a valid Interest Rate value", kRate},
+    {Everyone, NotNumeric<&DisclosureEntry::txtIntRateA>,
+     "Please enter a valid Interest Rate value", "txtIntRateA"},
     {ByCalendar, StartDateInvalid, "Starting Date is invalid, Please correct", kStart},
     {Everyone, TermUnusable, "Please enter a valid Compounding Period value", kTerm},
     {ByYears, TermAbove50, "Please enter a smaller number of years value to proceed.", kTerm},
@@ -259,65 +230,46 @@ constexpr EntryCheck kEntryChecks[] = {
     {WithCalendar, DatesEqual, "Both the dates cannot be same. Please try again.", kEnd},
     {WithCalendar, EndBeforeStart,
      "The End date cannot be earlier than the Start date. Please try again.", kEnd},
-    {Everyone, FactorMalformed, "Please enter a valid Daily Rate Factor", kFactor},
-    {YearOf365, FactorIs366, "Daily Rate Factor can't equal 366 if days selected equal 365",
-     kFactor},
-    {LeapDayLeftOut, FactorAbove365, "Daily Rate Factor can not exceed 365", kFactor},
-    {LeapDayCounted, FactorAbove366, "Daily Rate Factor can not exceed 366", kFactor},
-};
-
-constexpr EntryCheck kCalendarChecks[] = {
-    {ByCalendar, EmptyStart, "Starting Date is invalid, Please correct", kStart},
-    {ByCalendar, StartDateInvalid, "Starting Date Date is invalid, Please correct", kStart},
-    {ByCalendar, EmptyEnd, "Ending Date is invalid, Please correct", kEnd},
+    {Everyone, [](const Checked& c) { return !Denominator(c); },
+     "Please enter a valid Daily Rate Factor", kFactor},
+    {YearOf365, [](const Checked& c) { return Denominator(c) == 366; },
+     "Daily Rate Factor can't equal 366 if days selected equal 365", kFactor},
+    {LeapDayLeftOut, [](const Checked& c) { return Denominator(c) > 365; },
+     "Daily Rate Factor can not exceed 365", kFactor},
+    {LeapDayCounted, [](const Checked& c) { return Denominator(c) > 366; },
+     "Daily Rate Factor can not exceed 366", kFactor},
+    {ByCalendar, EndDateEmpty, "Ending Date is invalid, Please correct", kEnd},
     {ByCalendar, EndDateInvalid, "Ending Date Date is invalid, Please correct", kEnd},
-    {Everyone, SlashIsNotSecond, "Please enter the valid Daily Rate factor.", kFactor},
 };
-
-template <std::size_t Count>
-std::optional<Refusal> FirstFailure(const EntryCheck (&checks)[Count], const Checked& checked) {
-  for (const EntryCheck& check : checks) {
-    const bool takesPart = (checked.entry.*check.field).enabled && check.takesPart(checked);
-    if (takesPart && check.fails(checked)) return Refusal{check.message, NameOf(check.field)};
-  }
-  return std::nullopt;
-}
 
 }  // namespace
 
-const char* NameOf(EntryField DisclosureEntry::*field) {
-  for (const EntryFieldName& known : kEntryFields) {
-    if (known.field == field) return known.name;
+std::optional<Refusal> CheckEntry(const DisclosureCheck& check, const DisclosureEntry& entry) {
+  return FirstFailure<Checked>(kChecks, {check, entry, TermOf(check.setup, entry)});
+}
+
+DisclosureEntry Completed(const DisclosureCheck& check, DisclosureEntry entry) {
+  if (entry.txtBeginMonth.enabled && !IsNoMonth(entry.txtBeginMonth)) {
+    entry.txtBeginMonth.text = FormatTwoDigits(*WholeNumber(entry.txtBeginMonth.text));
   }
-  return "";
+  if (!TermOf(check.setup, entry).fromCalendar || CheckEntry(check, entry)) return entry;
+  entry.txtTerm.text = CountedTermText(check.setup, entry).value_or(entry.txtTerm.text);
+  return entry;
+}
+
+std::optional<Refusal> CheckPeriodNumber(const Field& number) {
+  if (number.IsEmpty() || !IsNoPeriodNumber(number)) return std::nullopt;
+  return Refusal{kPeriodRange, kPeriods};
 }
 
 bool IsRateMissing(const DisclosureEntry& entry) {
-  return !entry.txtIntRateA.enabled && Trim(entry.txtIntRateA.text).empty();
+  return !entry.txtIntRateA.enabled && entry.txtIntRateA.IsEmpty();
 }
 
-std::optional<Refusal> CheckEntry(const SessionRecord& session, DisclosureEntry& entry) {
-  const Checked checked{session, entry, TermOf(session, entry)};
-  if (entry.txtBeginMonth.enabled && !MonthOutsideYear(checked)) {
-    entry.txtBeginMonth.text = FormatTwoDigits(*WholeNumber(entry.txtBeginMonth.text));
-  }
-  return FirstFailure(kEntryChecks, checked);
-}
-
-std::optional<Refusal> CheckCalendarTerm(const SessionRecord& session, DisclosureEntry& entry) {
-  const Checked checked{session, entry, TermOf(session, entry)};
-  const auto refusal = FirstFailure(kCalendarChecks, checked);
-  if (!refusal && checked.term.fromCalendar) {
-    entry.txtTerm.text = CountedTermText(session, entry).value_or(entry.txtTerm.text);
-  }
-  return refusal;
-}
-
-std::optional<Refusal> CheckPeriodNumber(const SessionRecord& session, const std::string& text) {
-  DisclosureEntry entry;
-  entry.txtTierPerNum.text = text;
-  if (Trim(text).empty() || !CountOutside2To10({session, entry, {}})) return std::nullopt;
-  return Refusal{kPeriodRange, "txtTierPerNum"};
+std::chrono::year_month BeginOf(const DisclosureEntry& entry) {
+  const auto month = WholeNumber(entry.txtBeginMonth.text).value_or(0);
+  const auto year = WholeNumber(entry.txtBeginYear.text).value_or(0);
+  return std::chrono::year{year} / std::chrono::month{static_cast<unsigned>(month)};
 }
 
 }  // namespace corvane

@@ -2,13 +2,11 @@
 
 #include <string>
 
-#include "disclosure/DisclosureEntry.h"
+#include "disclosure/DisclosureCheck.h"
 
 namespace corvane {
 
-struct SessionRecord;
-
-/// The captions of the entry window for the account that was set up.
+/// The captions of the entry window for the account that was set up and the entry that is shown.
 struct EntryCaptions {
   std::string lblAcctType;
   std::string lblMethod;
@@ -21,8 +19,7 @@ struct EntryCaptions {
   std::string lblPeriodNumber;
   std::string lblHighLowEnd;
 };
-
-EntryCaptions CaptionsFor(const SessionRecord& session);
+EntryCaptions CaptionsFor(const DisclosureCheck& check);
 
 /// Which groups of fields the account has. What does not apply is hidden, disabled and emptied, so
 /// that nothing stale is computed or printed.
@@ -33,14 +30,6 @@ struct EntryGroups {
   bool withdrawal = false;    ///< interest has to be withdrawn
   bool factorFixed = false;   ///< the daily rate factor is the default and cannot be typed
 };
-
-EntryGroups GroupsFor(const SessionRecord& session);
-
-/// "1/365" or "1/366", by the year basis of the account.
-std::string DefaultFactor(const SessionRecord& session);
-
-/// The daily rate factor that the field shows: a factor kept from before (in the field or stored
-/// for the first period), unless there is none or it is the default of the other year basis.
-std::string FactorFor(const SessionRecord& session, const std::string& kept);
+EntryGroups GroupsFor(const DisclosureSetup& setup);
 
 }  // namespace corvane

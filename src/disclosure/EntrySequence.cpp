@@ -1,18 +1,17 @@
 #include "disclosure/EntrySequence.h"
 
-#include "account/SessionRecord.h"
+#include "account/DailyRateFactor.h"
+#include "disclosure/EntryChecks.h"
 #include "disclosure/EntryLayout.h"
 #include "disclosure/EntryTerm.h"
-#include "disclosure/PeriodStore.h"
-#include "support/NumberText.h"
 
 namespace corvane {
 
 namespace {
 
-using FieldOf = EntryField DisclosureEntry::*;
+using FieldOf = Field DisclosureEntry::*;
 
-constexpr int kMonthsOfYear = 12;
+constexpr double kLowEnd = 0.01;  ///< how far above its bound a tier begins
 
 /// By method B these are typed with the first entry and hold for all.
 constexpr FieldOf kTypedOnceByMethodB[] = {
@@ -21,84 +20,102 @@ constexpr FieldOf kTypedOnceByMethodB[] = {
     &DisclosureEntry::tStartDate,      &DisclosureEntry::tEndDate,
     &DisclosureEntry::txtWdrwlPeriods, &DisclosureEntry::txtBtwnReqIntWdrwl};
 
-bool IsStored(const SessionRecord& session, int entry) {
-  return session.PerPeriodNo.At(entry) == entry;
+/// How the numbers of an entry read when it is shown again.
+constexpr std::pair<FieldOf, std::string (*)(double)> kFormats[] = {
+    {&DisclosureEntry::txtBeginMonth, FormatTwoDigits},
+    {&DisclosureEntry::txtBeginYear, FormatTwoDigits},
+    {&DisclosureEntry::txtBal, FormatFixed2},
+    {&DisclosureEntry::txtIntRateA, FormatRate},
+    {&DisclosureEntry::txtDiscAPY, FormatFixed2},
+    {&DisclosureEntry::txtTerm, FormatPlain},
+    {&DisclosureEntry::txtWdrwlPeriods, FormatPlain},
+    {&DisclosureEntry::txtBtwnReqIntWdrwl, FormatPlain},
+};
+
+bool IsKept(const DisclosureCheck& check, int entry) {
+  return entry <= static_cast<int>(check.entries.size());
 }
 
-/// Months from the begin of a stored period to its end, where months measure it at all.
-int MonthsOf(const SessionRecord& session, int period) {
-  const double months = session.CompoundMonths ? PeriodLength(session) * session.PerTerm.At(period)
-                                               : session.PerWdrwlPeriods.At(period) *
-                                                     session.PerBtwnReqIntWdrwl.At(period);
-  return static_cast<int>(months);
-}
-
-/// Month and year in which a period begins that follows on the stored one before it.
-void BeginWherePreviousEnded(const SessionRecord& session, int previous, DisclosureEntry& entry) {
-  const int months = MonthsOf(session, previous);
-  const int begin = session.PerBeginMonth.At(previous) - 1 + months;
-  entry.txtBeginMonth.text = FormatTwoDigits(begin % kMonthsOfYear + 1);
-  entry.txtBeginYear.text = FormatPlain(session.PerBeginYear.At(previous) + begin / kMonthsOfYear);
-}
-
-/// A period or tier that was not entered yet.
-DisclosureEntry NewEntry(const SessionRecord& session, const DisclosureEntry& shown) {
-  DisclosureEntry entry = shown;
-  entry.tStartDate.text = entry.tEndDate.text = kEmptyDateMask;
-  const int current = CurrentEntry(session);
-  if (current == 1) return entry;
-  if (IsTiered(session)) {
-    entry.txtBal.text.clear();
-    entry.txtDiscAPY.text.clear();
-  } else {
-    entry.txtIntRateA.text.clear();
-    if (GroupsFor(session).dateRange) BeginWherePreviousEnded(session, current - 1, entry);
+DisclosureEntry KeptEntry(const DisclosureCheck& check, int number) {
+  DisclosureEntry entry = check.entries.at(static_cast<std::size_t>(number - 1));
+  for (const auto& [field, format] : kFormats) {
+    Field& shown = entry.*field;
+    if (shown.IsNumber()) shown.text = format(shown.Value());
   }
   return entry;
 }
 
-void Fix(EntryField& field, std::string text) {
+/// Months from the begin of an entry to its end, where months measure it at all.
+double MonthsOf(const DisclosureSetup& setup, const DisclosureEntry& entry) {
+  if (setup.compounding == Unit::Months) return PeriodLength(setup) * entry.txtTerm.Value();
+  return entry.txtWdrwlPeriods.Value() * entry.txtBtwnReqIntWdrwl.Value();
+}
+
+void BeginWherePreviousEnded(const DisclosureSetup& setup, DisclosureEntry& entry) {
+  if (!BeginOf(entry).ok()) return;
+  const std::chrono::months months{static_cast<int>(MonthsOf(setup, entry))};
+  const std::chrono::year_month begin = BeginOf(entry) + months;
+  entry.txtBeginMonth.text = FormatTwoDigits(static_cast<unsigned>(begin.month()));
+  entry.txtBeginYear.text = FormatPlain(static_cast<int>(begin.year()));
+}
+
+/// An entry behind the first that was not made yet.
+DisclosureEntry NextEntry(const DisclosureCheck& check) {
+  DisclosureEntry entry = KeptEntry(check, check.completed);
+  entry.tStartDate.text = entry.tEndDate.text = kEmptyDateMask;
+  if (check.setup.IsTiered()) {
+    entry.txtBal.text.clear();
+    entry.txtDiscAPY.text.clear();
+  } else {
+    entry.txtIntRateA.text.clear();
+    if (GroupsFor(check.setup).dateRange) BeginWherePreviousEnded(check.setup, entry);
+  }
+  return entry;
+}
+
+void Fix(Field& field, std::string text) {
   field = {std::move(text), false};
 }
 
 /// Number of periods, balance and disclosed APY belong to the account and stand with its first
 /// period.
-void FixForStepped(const SessionRecord& session, DisclosureEntry& entry) {
-  if (CurrentEntry(session) == 1) return;
-  const DisclosureEntry first = StoredEntry(session, 1);
-  Fix(entry.txtTierPerNum, std::to_string(session.TierPerNum));
+void FixForStepped(const DisclosureCheck& check, DisclosureEntry& entry) {
+  if (CurrentEntry(check) == 1) return;
+  const DisclosureEntry first = KeptEntry(check, 1);
+  Fix(entry.txtTierPerNum, std::to_string(EntryCount(check)));
   Fix(entry.txtBal, first.txtBal.text);
   Fix(entry.txtDiscAPY, first.txtDiscAPY.text);
 }
 
 /// The balance at which a tier end is verified; nothing for the high end of the last tier, which
 /// has no bound.
-std::optional<double> BoundOf(const SessionRecord& session, int entry) {
-  const int tier = TierOfEntry(entry);
-  if (EndOfEntry(entry) == TierEnd::Low) return session.TierAbove.At(tier) + 0.01;
-  if (tier == session.TotalTiers) return std::nullopt;
-  return session.TierNotExceeding.At(tier);
+std::optional<double> BoundOf(const std::vector<Tier>& tiers, int entry) {
+  const auto tier = static_cast<std::size_t>(TierOfEntry(entry));
+  if (IsLowEnd(entry)) return tiers.at(tier - 1).above + kLowEnd;
+  if (tier == tiers.size()) return std::nullopt;
+  return tiers.at(tier).above;
 }
 
-void FixForMethodB(const SessionRecord& session, DisclosureEntry& entry) {
-  const int current = CurrentEntry(session);
-  if (const auto bound = BoundOf(session, current)) Fix(entry.txtBal, FormatFixed2(*bound));
+void FixForMethodB(const DisclosureCheck& check, DisclosureEntry& entry) {
+  const int current = CurrentEntry(check);
+  if (const auto bound = BoundOf(TiersOf(check.tiers), current)) {
+    Fix(entry.txtBal, FormatFixed2(*bound));
+  }
   if (current == 1) return;
-  const DisclosureEntry first = StoredEntry(session, 1);
+  const DisclosureEntry first = KeptEntry(check, 1);
   for (FieldOf field : kTypedOnceByMethodB) Fix(entry.*field, (first.*field).text);
 }
 
-void FixForTiers(const SessionRecord& session, DisclosureEntry& entry) {
-  const int current = CurrentEntry(session);
-  const int tier = session.AcctTierB ? TierOfEntry(current) : current;
-  Fix(entry.txtTierPerNum, std::to_string(session.TotalTiers));
-  Fix(entry.txtIntRateA, FormatRate(session.TierRate.At(tier)));
-  if (session.AcctTierB) FixForMethodB(session, entry);
+void FixForTiers(const DisclosureCheck& check, DisclosureEntry& entry) {
+  const auto tier = static_cast<std::size_t>(PeriodOrTier(check));
+  Fix(entry.txtTierPerNum, std::to_string(check.tiers.count));
+  Fix(entry.txtIntRateA, FormatRate(TiersOf(check.tiers).at(tier - 1).rate));
+  if (check.setup.kind == AccountKind::TierB) FixForMethodB(check, entry);
 }
 
 /// What the account has no use for is emptied, so that nothing stale is computed or printed.
-void EmptyUnusedGroups(const SessionRecord& session, DisclosureEntry& entry) {
-  const EntryGroups groups = GroupsFor(session);
+void EmptyUnusedGroups(const DisclosureSetup& setup, DisclosureEntry& entry) {
+  const EntryGroups groups = GroupsFor(setup);
   if (!groups.periodNumber) Fix(entry.txtTierPerNum, "");
   if (!groups.dateRange) {
     Fix(entry.txtBeginMonth, "");
@@ -114,88 +131,92 @@ void EmptyUnusedGroups(const SessionRecord& session, DisclosureEntry& entry) {
   }
 }
 
-void PutFactor(const SessionRecord& session, DisclosureEntry& entry) {
-  const std::string stored = session.PerDailyRateFactor.At(1);
-  std::string& text = entry.txtDailyRateFactor.text;
-  if (Trim(text).empty()) text = stored;
-  text = FactorFor(session, text);
-  if (GroupsFor(session).factorFixed) entry.txtDailyRateFactor.enabled = false;
+void PutFactor(const DisclosureSetup& setup, Field& factor) {
+  const bool isFixed = GroupsFor(setup).factorFixed;
+  if (isFixed || factor.IsEmpty()) factor.text = DefaultFactor(setup.year.days);
+  factor.enabled = !isFixed;
 }
 
 }  // namespace
 
-bool IsTiered(const SessionRecord& session) {
-  return session.AcctTierA || session.AcctTierB;
-}
-
-int EntryCount(const SessionRecord& session) {
-  if (session.AcctStepped) return session.TierPerNum;
-  if (session.AcctTierA) return session.TotalTiers;
-  if (session.AcctTierB) return 2 * session.TotalTiers - 1;
+int EntryCount(const DisclosureCheck& check) {
+  switch (check.setup.kind.value_or(AccountKind::Regular)) {
+    case AccountKind::Regular:
+      return 1;
+    case AccountKind::Stepped:
+      if (check.entries.empty()) return 0;
+      return WholeNumber(check.entries.front().txtTierPerNum.text).value_or(0);
+    case AccountKind::TierA:
+      return check.tiers.count;
+    case AccountKind::TierB:
+      return 2 * check.tiers.count - 1;
+  }
   return 1;
 }
 
-int CurrentEntry(const SessionRecord& session) {
-  return session.PeriodCount + 1;
+int CurrentEntry(const DisclosureCheck& check) {
+  return check.completed + 1;
 }
 
-bool IsLastEntry(const SessionRecord& session) {
-  // The number of stepped periods is known once the first one was completed.
-  if (session.AcctStepped && session.PeriodCount == 0) return false;
-  return CurrentEntry(session) >= EntryCount(session);
+int PeriodOrTier(const DisclosureCheck& check) {
+  const int current = CurrentEntry(check);
+  return check.setup.kind == AccountKind::TierB ? TierOfEntry(current) : current;
 }
 
-int EntryBehindResults(const SessionRecord& session) {
-  const bool periodsRemain = session.AcctStepped && session.PeriodCount < EntryCount(session);
-  return periodsRemain ? CurrentEntry(session) : session.PeriodCount;
+bool IsLastEntry(const DisclosureCheck& check) {
+  if (check.setup.kind == AccountKind::Stepped && check.completed == 0) return false;
+  return CurrentEntry(check) >= EntryCount(check);
+}
+
+int EntryBehindResults(const DisclosureCheck& check) {
+  const bool periodsRemain =
+      check.setup.kind == AccountKind::Stepped && check.completed < EntryCount(check);
+  return periodsRemain ? CurrentEntry(check) : check.completed;
 }
 
 int TierOfEntry(int entry) {
   return entry / 2 + 1;
 }
 
-TierEnd EndOfEntry(int entry) {
-  return entry % 2 == 0 ? TierEnd::Low : TierEnd::High;
+bool IsLowEnd(int entry) {
+  return entry % 2 == 0;
 }
 
-void NumberCurrentEntry(SessionRecord& session) {
-  const int current = CurrentEntry(session);
-  session.PeriodNumber =
-      static_cast<std::int16_t>(session.AcctTierB ? TierOfEntry(current) : current);
-}
-
-DisclosureEntry PresentEntry(const SessionRecord& session, const DisclosureEntry& shown) {
-  const int current = CurrentEntry(session);
-  DisclosureEntry entry =
-      IsStored(session, current) ? StoredEntry(session, current) : NewEntry(session, shown);
-  for (const EntryFieldName& known : kEntryFields) (entry.*known.field).enabled = true;
-  entry.txtTierPerNum.text = shown.txtTierPerNum.text;
-  PutFactor(session, entry);
-  if (session.AcctStepped) FixForStepped(session, entry);
-  if (IsTiered(session)) FixForTiers(session, entry);
-  EmptyUnusedGroups(session, entry);
-  entry.tStartDate.enabled = entry.tEndDate.enabled = TermDatesEnabled(session, entry.txtTerm.text);
+DisclosureEntry PresentEntry(const DisclosureCheck& check) {
+  const int current = CurrentEntry(check);
+  DisclosureEntry entry;
+  if (IsKept(check, current)) {
+    entry = KeptEntry(check, current);
+  } else if (current > 1) {
+    entry = NextEntry(check);
+  }
+  for (const auto& name : DisclosureEntry::Fields()) (entry.*name.field).enabled = true;
+  PutFactor(check.setup, entry.txtDailyRateFactor);
+  if (check.setup.kind == AccountKind::Stepped) FixForStepped(check, entry);
+  if (check.setup.IsTiered()) FixForTiers(check, entry);
+  EmptyUnusedGroups(check.setup, entry);
+  entry.tStartDate.enabled = entry.tEndDate.enabled = TermDatesEnabled(check, entry.txtTerm);
   return entry;
 }
 
-bool IsWorthKeeping(const SessionRecord& session, const DisclosureEntry& entry) {
-  const int current = CurrentEntry(session);
-  const EntryField& typed = IsTiered(session) ? entry.txtDiscAPY : entry.txtIntRateA;
-  return current == 1 || IsStored(session, current) || !Trim(typed.text).empty();
+void KeepEntry(DisclosureCheck& check, const DisclosureEntry& entry) {
+  const auto place = static_cast<std::size_t>(check.completed);
+  if (place == check.entries.size()) check.entries.emplace_back();
+  const int count = EntryCount(check);
+  check.entries.at(place) = entry;
+  const bool voidsOthers = check.setup.kind == AccountKind::Stepped && EntryCount(check) != count;
+  if (voidsOthers) check.entries.resize(1);
 }
 
-bool TermDatesEnabled(const SessionRecord& session, const std::string& term) {
-  const bool typedBefore = session.AcctTierB && CurrentEntry(session) > 1;
-  return HasCalendar(session) && AsksForCalendar(term) && !typedBefore;
+bool IsWorthKeeping(const DisclosureCheck& check, const DisclosureEntry& entry) {
+  const int current = CurrentEntry(check);
+  const Field& typed = check.setup.IsTiered() ? entry.txtDiscAPY : entry.txtIntRateA;
+  return current == 1 || IsKept(check, current) || !typed.IsEmpty();
 }
 
-void TakePeriodNumber(SessionRecord& session, const DisclosureEntry& entry) {
-  const auto number = WholeNumber(entry.txtTierPerNum.text).value_or(0);
-  if (!session.AcctStepped || number == session.TierPerNum) return;
-  session.TierPerNum = number;
-  for (int period = 2; period <= session.PerPeriodNo.Last(); ++period) {
-    session.PerPeriodNo.Set(period, 0);
-  }
+bool TermDatesEnabled(const DisclosureCheck& check, const Field& term) {
+  const bool typedBefore = check.setup.kind == AccountKind::TierB && CurrentEntry(check) > 1;
+  return HasCalendar(check.setup) && AsksForCalendar(term) && !typedBefore;
 }
 
 }  // namespace corvane

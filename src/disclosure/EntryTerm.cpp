@@ -1,10 +1,6 @@
 #include "disclosure/EntryTerm.h"
 
-#include <algorithm>
-
-#include "account/SessionRecord.h"
 #include "formulas/TermCounting.h"
-#include "support/NumberText.h"
 
 namespace corvane {
 
@@ -14,60 +10,57 @@ constexpr double kMostDays = 36600;
 constexpr double kMostMonths = 1200;
 
 /// Days between the dates of the entry, when both are valid and in order.
-std::optional<int> DaysBetweenDates(const SessionRecord& session, const DisclosureEntry& entry) {
+std::optional<int> DaysBetweenDates(const DisclosureSetup& setup, const DisclosureEntry& entry) {
   const auto start = ParseDate(entry.tStartDate.text);
   const auto end = ParseDate(entry.tEndDate.text);
   if (!start || !end || DaysBetween(*start, *end) <= 0) return std::nullopt;
-  return CalendarTermDays(*start, *end, session.CountLeapDay);
+  return CalendarTermDays(*start, *end, setup.year.countsLeapDay);
 }
 
-bool StepsThroughPeriods(const SessionRecord& session) {
-  return session.CompoundMonths || session.ReqWdrwlDays || session.ReqWdrwlMonths ||
-         (session.CompoundYears && session.AcctStepped);
+bool StepsThroughPeriods(const DisclosureSetup& setup) {
+  return setup.compounding == Unit::Months || setup.withdrawal != Unit::None ||
+         (setup.compounding == Unit::Years && setup.kind == AccountKind::Stepped);
 }
 
 }  // namespace
 
-bool AsksForCalendar(std::string_view termText) {
-  return Trim(termText).empty() || (IsNumeric(termText) && NumericValue(termText) == 0);
+bool AsksForCalendar(const Field& term) {
+  return term.IsEmpty() || (term.IsNumber() && term.Value() == 0);
 }
 
-bool HasCalendar(const SessionRecord& session) {
-  return session.CompoundNone || session.CompoundDays;
+bool HasCalendar(const DisclosureSetup& setup) {
+  return setup.compounding == Unit::None || setup.compounding == Unit::Days;
 }
 
-int PeriodLength(const SessionRecord& session) {
-  if (session.CompoundNone) return 1;
-  return std::max<int>(1, session.CompoundingDays);
-}
-
-EntryTerm TermOf(const SessionRecord& session, const DisclosureEntry& entry) {
+EntryTerm TermOf(const DisclosureSetup& setup, const DisclosureEntry& entry) {
   EntryTerm term;
-  term.fromCalendar = HasCalendar(session) && AsksForCalendar(entry.txtTerm.text);
+  term.fromCalendar = HasCalendar(setup) && AsksForCalendar(entry.txtTerm);
   if (!term.fromCalendar) {
-    if (IsNumeric(entry.txtTerm.text)) term.periods = NumericValue(entry.txtTerm.text);
+    if (entry.txtTerm.IsNumber()) term.periods = entry.txtTerm.Value();
     return term;
   }
-  term.calendarDays = DaysBetweenDates(session, entry);
-  if (term.calendarDays) term.periods = double(*term.calendarDays) / PeriodLength(session);
+  term.calendarDays = DaysBetweenDates(setup, entry);
+  if (term.calendarDays) {
+    term.periods = static_cast<double>(*term.calendarDays) / PeriodLength(setup);
+  }
   return term;
 }
 
-std::optional<std::string> CountedTermText(const SessionRecord& session,
+std::optional<std::string> CountedTermText(const DisclosureSetup& setup,
                                            const DisclosureEntry& entry) {
-  const auto days = DaysBetweenDates(session, entry);
-  const int length = PeriodLength(session);
+  const auto days = DaysBetweenDates(setup, entry);
+  const int length = PeriodLength(setup);
   if (!days || *days <= 0 || *days % length != 0) return std::nullopt;
   return FormatPlain(*days / length);
 }
 
-bool IsUsableTerm(const SessionRecord& session, const EntryTerm& term) {
+bool IsUsableTerm(const DisclosureSetup& setup, const EntryTerm& term) {
   if (!term.periods || *term.periods <= 0) return false;
-  const bool mustBeWhole = term.fromCalendar || StepsThroughPeriods(session);
+  const bool mustBeWhole = term.fromCalendar || StepsThroughPeriods(setup);
   if (mustBeWhole && !IsWhole(*term.periods)) return false;
-  if (session.CompoundYears) return true;
-  const double most = session.CompoundMonths ? kMostMonths : kMostDays;
-  return *term.periods * PeriodLength(session) <= most;
+  if (setup.compounding == Unit::Years) return true;
+  const double most = setup.compounding == Unit::Months ? kMostMonths : kMostDays;
+  return *term.periods * PeriodLength(setup) <= most;
 }
 
 }  // namespace corvane

@@ -1,22 +1,18 @@
 #pragma once
 
 #include <optional>
-#include <string_view>
+#include <string>
 
 #include "disclosure/DisclosureEntry.h"
+#include "disclosure/DisclosureSetup.h"
 
 namespace corvane {
 
-struct SessionRecord;
-
-/// Whether a term text leaves the counting to the two dates: it is empty or 0.
-bool AsksForCalendar(std::string_view termText);
+/// Whether a term field leaves the counting to the two dates: it is empty or 0.
+bool AsksForCalendar(const Field& term);
 
 /// Whether the term can be given by two dates at all: no compounding, or compounding by days.
-bool HasCalendar(const SessionRecord& session);
-
-/// N as the entries mean it: 1 without compounding and for an interval below 1.
-int PeriodLength(const SessionRecord& session);
+bool HasCalendar(const DisclosureSetup& setup);
 
 /// The term of an entry, from its term field or from its dates.
 struct EntryTerm {
@@ -26,16 +22,15 @@ struct EntryTerm {
   /// The term as the formulas take it, in days or N-unit periods; nothing while it is unknown.
   std::optional<double> periods;
 };
-
-EntryTerm TermOf(const SessionRecord& session, const DisclosureEntry& entry);
+EntryTerm TermOf(const DisclosureSetup& setup, const DisclosureEntry& entry);
 
 /// The term text that two dates give: their days divided by N, since the formulas multiply by N.
 /// Nothing when the dates are not in order or leave a rest.
-std::optional<std::string> CountedTermText(const SessionRecord& session,
+std::optional<std::string> CountedTermText(const DisclosureSetup& setup,
                                            const DisclosureEntry& entry);
 
 /// Whether the formulas can take the term: above 0, whole wherever periods are stepped through one
 /// by one, and of no more than 36,600 days or 1,200 months.
-bool IsUsableTerm(const SessionRecord& session, const EntryTerm& term);
+bool IsUsableTerm(const DisclosureSetup& setup, const EntryTerm& term);
 
 }  // namespace corvane

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "account/SessionRecord.h"
+#include "support/Rounding.h"
 
 namespace corvane {
 
@@ -10,12 +10,15 @@ double GrowthOf(double rate, double power) {
   return std::expm1(power * std::log1p(rate));
 }
 
-double AnnualYield(double interest, double principal, double exponent) {
-  return 100 * GrowthOf(interest / principal, exponent);
+Outcome<Yield> YieldOf(double interest, double principal, double exponent) {
+  const double rounded = RoundToCents(interest);
+  const double apy = 100 * GrowthOf(rounded / principal, exponent);
+  if (!std::isfinite(rounded) || !std::isfinite(apy)) return Failure::NotComputable;
+  return Yield{rounded, RoundToCents(apy)};
 }
 
-double YearBasis(const SessionRecord& session) {
-  return session.DaysInYear365 ? 365 : 366;
+double YieldExponent(const Compounding& compounding, double yearDays, double length) {
+  return compounding.unit == Unit::Years ? 1 / (compounding.length * length) : yearDays / length;
 }
 
 }  // namespace corvane

@@ -1,18 +1,27 @@
 #pragma once
 
+#include "formulas/AccountTerms.h"
+#include "formulas/Outcome.h"
+
 namespace corvane {
 
-struct SessionRecord;
+/// What an account earns: interest in currency, rounded to cents, and the annual percentage yield
+/// in percent, rounded to hundredths.
+struct Yield {
+  double interest = 0;
+  double apy = 0;
+};
 
 /// (1 + rate) to a power, less 1, without losing the digits of a small rate.
 double GrowthOf(double rate, double power);
 
-/// APY in percent, unrounded: 100 x ((1 + interest / principal) ^ exponent - 1), where the exponent
-/// is the days of the year over the days in term, or 1 over the years (Regulation DD, Appendix A,
-/// Part I.A). Not finite where the principal is 0.
-double AnnualYield(double interest, double principal, double exponent);
+/// The general formula of Regulation DD, Appendix A, Part I.A: 100 x ((1 + interest / principal) ^
+/// exponent - 1), of the interest as rounded to cents. Fails where that is not finite.
+Outcome<Yield> YieldOf(double interest, double principal, double exponent);
 
-/// 365 when the account has a 365-day year, else 366.
-double YearBasis(const SessionRecord& session);
+/// The exponent of the general formula: the days of the year over the days of the term or, with
+/// compounding by years, 1 over its years. `length` is the term as counted: days, or N-year
+/// periods.
+double YieldExponent(const Compounding& compounding, double yearDays, double length);
 
 }  // namespace corvane

@@ -4,8 +4,6 @@
 #include <cmath>
 #include <limits>
 
-#include "account/SessionRecord.h"
-
 namespace corvane {
 
 namespace {
@@ -20,10 +18,10 @@ double BinaryNoise(double a, double b) {
 
 }  // namespace
 
-void CheckApy(SessionRecord& session, double disclosedApy, double computedApy) {
+Verdict CheckApy(double disclosedApy, double computedApy) {
   const double difference = std::fabs(disclosedApy - computedApy);
   const bool within = difference <= kTolerance + BinaryNoise(disclosedApy, computedApy);
-  session.ApyVerdict = within ? kApyOk : kApyViolation;
+  return within ? Verdict::Ok : Verdict::Violation;
 }
 
 }  // namespace corvane

@@ -2,14 +2,11 @@
 
 namespace corvane {
 
-struct SessionRecord;
+enum class Verdict { Ok, Violation };
 
-inline constexpr const char* kApyOk = "OK";
-inline constexpr const char* kApyViolation = "APY VIOLATION";
-
-/// The violation test: stores the verdict on a disclosed APY in ApyVerdict. A computed APY no more
-/// than one twentieth of a percentage point (0.05) away is "OK", the bound included; any other is
-/// an "APY VIOLATION" (Regulation DD, 12 CFR 230.3(f)). Both are percent numbers.
-void CheckApy(SessionRecord& session, double disclosedApy, double computedApy);
+/// The violation test: a computed APY no more than one twentieth of a percentage point (0.05) away
+/// from the disclosed one is Ok, the bound included; any other is a Violation (Regulation DD,
+/// section 3(f)). Both are percent numbers.
+Verdict CheckApy(double disclosedApy, double computedApy);
 
 }  // namespace corvane

@@ -2,28 +2,40 @@
 
 #include <algorithm>
 
-#include "formulas/DayRate.h"
+#include "formulas/DailyRate.h"
 
 namespace corvane {
 
+std::size_t TierOfBalance(std::span<const Tier> tiers, double balance) {
+  std::size_t tier = 0;
+  while (tier + 1 < tiers.size() && balance > tiers[tier + 1].above) ++tier;
+  return tier;
+}
+
+double RateOfDay(const StatementAccount& account, double balance, double typedRate) {
+  if (account.kind == AccountKind::Stepped) return typedRate;
+  if (account.kind == AccountKind::Regular) return account.rate;
+  return account.tiers[TierOfBalance(account.tiers, balance)].rate;
+}
+
 DayInterest::DayInterest(const StatementAccount& account) : account_(account) {
-  if (account.kind == RateKind::Regular) {
-    dailyRates_.push_back(PeriodicRate(account.rate, account.daysInYear));
+  if (account.kind == AccountKind::Regular) {
+    dailyRates_.push_back(PeriodicRate(account.rate, account.factorDays));
   }
-  for (const BalanceTier& tier : account.tiers) {
-    dailyRates_.push_back(PeriodicRate(tier.rate, account.daysInYear));
+  for (const Tier& tier : account.tiers) {
+    dailyRates_.push_back(PeriodicRate(tier.rate, account.factorDays));
   }
 }
 
 double DayInterest::Of(double balance, double carried, double steppedRate) const {
   switch (account_.kind) {
-    case RateKind::Regular:
+    case AccountKind::Regular:
       return dailyRates_.front() * (balance + carried);
-    case RateKind::Stepped:
-      return PeriodicRate(steppedRate, account_.daysInYear) * (balance + carried);
-    case RateKind::TierA:
+    case AccountKind::Stepped:
+      return PeriodicRate(steppedRate, account_.factorDays) * (balance + carried);
+    case AccountKind::TierA:
       return dailyRates_[TierOfBalance(account_.tiers, balance)] * (balance + carried);
-    case RateKind::TierB:
+    case AccountKind::TierB:
       return OverTiers(balance + carried);
   }
   return 0;

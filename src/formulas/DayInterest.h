@@ -1,10 +1,21 @@
 #pragma once
 
+#include <cstddef>
+#include <span>
 #include <vector>
 
-#include "statement/StatementAccount.h"
+#include "formulas/StatementAccount.h"
 
 namespace corvane {
+
+/// The position (0 for tier 1) of the tier that holds the balance. A balance equal to a bound
+/// belongs to the lower tier; a balance below 0 to the first.
+std::size_t TierOfBalance(std::span<const Tier> tiers, double balance);
+
+/// The annual rate, in percent, that the day list shows beside a balance: the account's rate, or
+/// the rate of the tier that holds the balance. A stepped account's rate of the day is typed, so
+/// that `typedRate` stays.
+double RateOfDay(const StatementAccount& account, double balance, double typedRate);
 
 /// What a balance earns in one day. The daily rates of the account and its tiers are worked out
 /// once, for all days. The account must outlive it.

@@ -1,75 +1,69 @@
 #include "formulas/TermInterest.h"
 
-#include "account/FormulaRefusals.h"
-#include "account/SessionRecord.h"
+#include <cmath>
+
 #include "formulas/AnnualYield.h"
-#include "formulas/CompoundingInterval.h"
-#include "formulas/DailyRateFactor.h"
-#include "formulas/RoundValue.h"
+#include "formulas/DailyRate.h"
 #include "formulas/TermCounting.h"
 #include "formulas/WithdrawalInterest.h"
-#include "support/NumberText.h"
 
 namespace corvane {
 
 namespace {
 
-double RoundedDailyRate(const SessionRecord& session, const TermRate& rate) {
-  double dailyRate = DailyRate(rate.percent, rate.denominator);
-  return RoundValue(session, dailyRate, 0);
-}
+constexpr double kMostSteps = 1e6;
+constexpr double kMostMonths = 32767;
 
-/// Regulation DD, Appendix A, Part I.A. The daily rate compounds once a day whatever N is.
-std::optional<Refusal> InterestByDays(SessionRecord& session, const TermRate& rate,
-                                      double& principal, double& term, double& interest) {
-  if (session.ReqWdrwlDays) {
-    return CalcDailyInterestDayWithdrawals(session, rate.percent, rate.denominator, principal, term,
-                                           interest);
-  }
-  if (session.ReqWdrwlMonths) {
-    return CalcDailyInterestMonthWithdrawals(session, RoundedDailyRate(session, rate), principal,
-                                             term, interest, rate.firstPeriod);
-  }
-  term *= CompoundingInterval(session);
-  interest = principal * GrowthOf(DailyRate(rate.percent, rate.denominator), term);
-  return std::nullopt;
+Outcome<TermInterest> InterestByDays(const AccountTerms& terms, const Deposit& deposit, Fill fill) {
+  if (terms.withdrawal == Unit::Days) return WithdrawnEveryDays(terms, deposit);
+  if (terms.withdrawal == Unit::Months)
+    return CompoundedByDaysWithdrawnMonthly(terms, deposit, fill);
+  const double days = deposit.term * terms.compounding.length;
+  const double rate = DailyRate(deposit.rate, deposit.factorDays);
+  return TermInterest{deposit.balance * GrowthOf(rate, days), days};
 }
 
 /// Without withdrawals the periods of the term are its days over the days of one period, so that
 /// the months' lengths count.
-std::optional<Refusal> InterestByMonths(SessionRecord& session, const TermRate& rate,
-                                        double principal, double& term, double& interest) {
-  const auto days = MonthPeriodsInDays(session, term);
-  if (!days) return NotComputable();
-  if (session.WdrwlPeriods > 0) {
-    const auto refusal = CalcMonthlyInterestWithdrawals(session, RoundedDailyRate(session, rate),
-                                                        principal, interest);
-    if (refusal) return refusal;
-  } else {
-    const double periodsPerYear = 12 / CompoundingInterval(session);
-    interest = principal * GrowthOf(rate.percent * 0.01 / periodsPerYear,
-                                    *days / rate.denominator * periodsPerYear);
+Outcome<TermInterest> InterestByMonths(const AccountTerms& terms, const Deposit& deposit) {
+  const double months = RoundToDecimals(terms.compounding.length * deposit.term, 0);
+  if (!deposit.begin.ok() || !(months <= kMostMonths)) return Failure::NotComputable;
+  const int days = MonthTermDays(deposit.begin, static_cast<int>(months), terms.year.countsLeapDay);
+  if (terms.withdrawal == Unit::Months) {
+    return CompoundedByMonthsWithdrawnMonthly(terms, deposit, days);
   }
-  term = *days;
-  return std::nullopt;
+  const double periodsPerYear = 12.0 / terms.compounding.length;
+  const double periods = days / deposit.factorDays * periodsPerYear;
+  return TermInterest{deposit.balance * GrowthOf(deposit.rate * 0.01 / periodsPerYear, periods),
+                      static_cast<double>(days)};
+}
+
+bool IsUsable(const AccountTerms& terms, const Deposit& deposit) {
+  return terms.compounding.length >= 1 && deposit.balance > 0 && deposit.term > 0 &&
+         deposit.factorDays > 0;
 }
 
 }  // namespace
 
-std::optional<double> MonthPeriodsInDays(SessionRecord& session, double periods) {
-  const auto months = WholeNumber(CompoundingInterval(session) * periods);
-  if (!months) return std::nullopt;
-  return MonthTermDays(session.BeginMonth, session.BeginYear, *months, session.CountLeapDay);
+Outcome<TermInterest> InterestOfTerm(const AccountTerms& terms, const Deposit& deposit, Fill fill) {
+  if (!IsUsable(terms, deposit)) return Failure::NotComputable;
+  const auto& [balance, rate, term, factorDays, begin, withdrawals] = deposit;
+  switch (terms.compounding.unit) {
+    case Unit::None:
+      return TermInterest{rate / 100 * balance * (term / factorDays), term};
+    case Unit::Days:
+      return InterestByDays(terms, deposit, fill);
+    case Unit::Months:
+      return InterestByMonths(terms, deposit);
+    case Unit::Years:
+      return TermInterest{balance * GrowthOf(rate * 0.01 * terms.compounding.length, term), term};
+  }
+  return Failure::NotComputable;
 }
 
-std::optional<Refusal> CalcTermInterest(SessionRecord& session, const TermRate& rate,
-                                        double& principal, double& term, double& interest) {
-  const double interval = CompoundingInterval(session);
-  if (session.CompoundDays) return InterestByDays(session, rate, principal, term, interest);
-  if (session.CompoundMonths) return InterestByMonths(session, rate, principal, term, interest);
-  if (session.CompoundNone) interest = rate.percent / 100 * principal * (term / rate.denominator);
-  if (session.CompoundYears) interest = principal * GrowthOf(rate.percent * 0.01 * interval, term);
-  return std::nullopt;
+std::optional<int> StepCount(double limit) {
+  if (!(limit <= kMostSteps)) return std::nullopt;
+  return limit < 1 ? 0 : static_cast<int>(limit);
 }
 
 }  // namespace corvane

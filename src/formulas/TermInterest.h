@@ -1,34 +1,31 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 
-#include "account/Refusal.h"
+#include "formulas/AccountTerms.h"
+#include "formulas/Outcome.h"
 
 namespace corvane {
 
-struct SessionRecord;
-
-/// The rate that a term earns.
-struct TermRate {
-  double percent = 0;      ///< a year
-  double denominator = 0;  ///< days of the year of the daily rate factor
-  /// 1 when withdrawals every so many months have to fill the term, as for a first period.
-  std::int16_t firstPeriod = 1;
+/// What a deposit earns over its term.
+struct TermInterest {
+  double interest = 0;  ///< currency, unrounded
+  double length = 0;    ///< the term as counted: days, or N-year periods
 };
 
-/// Unrounded interest of one term, by the compounding unit and the required withdrawals of the
-/// account. Where no unit is set the interest stays as it is. The caller looks at whether the
-/// interest is finite.
-/// @param principal grows only with withdrawals every so many days
-/// @param term as entered: days without compounding, else N-day, N-month or N-year periods; comes
-///   back as days, and for years as it was
-/// @return a refusal of the withdrawal periods or of a term that cannot be counted
-std::optional<Refusal> CalcTermInterest(SessionRecord& session, const TermRate& rate,
-                                        double& principal, double& term, double& interest);
+/// Whether withdrawals every so many months have to fill the term. They do for an account, a tier
+/// and the first period of a stepped account.
+enum class Fill { Demanded, Open };
 
-/// The days of so many N-month periods from the session's BeginMonth and BeginYear, or nothing
-/// for more months than can be counted.
-std::optional<double> MonthPeriodsInDays(SessionRecord& session, double periods);
+/// Interest of a deposit by the compounding unit and the required withdrawals of its account
+/// (Regulation DD, Appendix A, Part I.A). With compounding by days the daily rate compounds every
+/// day whatever N is. Fails for a balance, a term or factor days not above 0, for months without a
+/// beginning, for more than a million steps, and for withdrawal periods that do not fill the term.
+Outcome<TermInterest> InterestOfTerm(const AccountTerms& terms, const Deposit& deposit, Fill fill);
+
+/// How often a count from 1 up to a limit runs: the whole number below it, 0 for a limit below 1.
+/// Nothing where the limit is no number or above a million, which no real term comes near and
+/// which would keep the user waiting.
+std::optional<int> StepCount(double limit);
 
 }  // namespace corvane

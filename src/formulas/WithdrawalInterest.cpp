@@ -1,12 +1,7 @@
 #include "formulas/WithdrawalInterest.h"
 
-#include "account/FormulaRefusals.h"
-#include "account/SessionRecord.h"
 #include "formulas/AnnualYield.h"
-#include "formulas/CompoundingInterval.h"
-#include "formulas/DailyRateFactor.h"
-#include "formulas/RoundValue.h"
-#include "formulas/StepCount.h"
+#include "formulas/DailyRate.h"
 #include "formulas/TermCounting.h"
 
 namespace corvane {
@@ -16,103 +11,93 @@ namespace {
 /// Amounts from here on are rounded; smaller ones keep all their digits.
 constexpr double kRoundedFrom = 0.01;
 
-double RoundedFromACent(const SessionRecord& session, double value) {
-  return value >= kRoundedFrom ? RoundValue(session, value, 0) : value;
+double RoundedFromACent(double value) {
+  return value >= kRoundedFrom ? RoundIntermediate(value) : value;
 }
 
-double DaysFrom(const SessionRecord& session, int month, double months) {
-  return CountMonthPeriodDays(month, session.BeginYear, 1, months, session.CountLeapDay);
+TermInterest WithdrawnOnce(const AccountTerms& terms, const Deposit& deposit) {
+  const double days = deposit.term * terms.compounding.length;
+  const double rate = DailyRate(deposit.rate, deposit.factorDays);
+  return {RoundIntermediate(deposit.balance * GrowthOf(rate, days)), days};
 }
 
-/// Interest of one withdrawal period that compounds step by step at a rate per step.
-double InterestOfSteps(double principal, double ratePerStep, int steps) {
+/// Interest of one withdrawal period that compounds day by day.
+double InterestOfDays(double principal, double dailyRate, int days) {
   double grown = principal;
-  for (; steps > 0; --steps) grown = ratePerStep * grown + grown;
+  for (; days > 0; --days) grown = dailyRate * grown + grown;
   return grown - principal;
 }
 
-/// Interest of one withdrawal period of so many N-month compoundings; `month` moves past them.
-double InterestOfMonths(SessionRecord& session, double dailyRate, double principal,
-                        int compoundings, int& month) {
-  const double interval = CompoundingInterval(session);
+/// Interest of one withdrawal period of so many N-month compoundings from a month on.
+double InterestOfMonths(const AccountTerms& terms, double dailyRate, double principal,
+                        std::chrono::year_month month, int compoundings) {
+  const int length = terms.compounding.length;
   double grown = principal;
   for (; compoundings > 0; --compoundings) {
-    double interest = dailyRate * grown * DaysFrom(session, month, interval);
-    grown += RoundValue(session, interest, 0);
-    month = MonthAfter(month, static_cast<int>(interval));
+    const double days = MonthsInDays(month, length, terms.year.countsLeapDay);
+    grown += RoundIntermediate(dailyRate * grown * days);
+    month = MonthInSameYear(month, length);
   }
   return grown - principal;
 }
 
 }  // namespace
 
-std::optional<Refusal> CalcDailyInterestDayWithdrawals(SessionRecord& session, double rate,
-                                                       double denominator, double& principal,
-                                                       double& term, double& interest) {
-  const double withdrawals = session.WdrwlPeriods;
-  const double interval = CompoundingInterval(session);
-  const double dailyRate = RoundedFromACent(session, DailyRate(rate, denominator));
-  if (withdrawals < 1) return std::nullopt;
-  if (withdrawals == 1) {
-    term *= interval;
-    interest = principal * GrowthOf(DailyRate(rate, denominator), term);
-    RoundValue(session, interest, 0);
-    return std::nullopt;
-  }
-  // In single precision the quotient of a whole number of periods never falls just short of it.
-  const auto steps = StepCount(static_cast<float>(term / withdrawals));
-  if (!steps) return NotComputable();
-  double grown = principal;
-  for (int k = 0; k < *steps; ++k) {
-    grown += RoundedFromACent(session, dailyRate * grown * interval);
-  }
-  interest = (grown - principal) * withdrawals;
-  principal += interest;
-  term = *steps * interval * withdrawals;
-  return std::nullopt;
+Outcome<TermInterest> WithdrawnEveryDays(const AccountTerms& terms, const Deposit& deposit) {
+  const double withdrawals = deposit.withdrawals.periods;
+  if (withdrawals == 1) return WithdrawnOnce(terms, deposit);
+  const auto steps = StepCount(deposit.term / withdrawals);
+  if (!(withdrawals > 1) || !steps) return Failure::NotComputable;
+  const double length = terms.compounding.length;
+  const double dailyRate = RoundedFromACent(DailyRate(deposit.rate, deposit.factorDays));
+  double grown = deposit.balance;
+  for (int k = 0; k < *steps; ++k) grown += RoundedFromACent(dailyRate * grown * length);
+  return TermInterest{(grown - deposit.balance) * withdrawals, *steps * length * withdrawals};
 }
 
-std::optional<Refusal> CalcDailyInterestMonthWithdrawals(SessionRecord& session, double dailyRate,
-                                                         double principal, double term,
-                                                         double& interest,
-                                                         std::int16_t firstPeriod) {
-  const double monthsEach = session.BtwnReqIntWdrwl;
-  const auto withdrawals = StepCount(session.WdrwlPeriods);
-  const auto totalDays =
-      StepCount(CountMonthPeriodDays(session.BeginMonth, session.BeginYear, session.WdrwlPeriods,
-                                     monthsEach, session.CountLeapDay));
-  if (!withdrawals || !totalDays) return NotComputable();
-  if (firstPeriod == 1 && *totalDays != term) return WithdrawalPeriodsDisagree();
-  const double ratePerStep = dailyRate * CompoundingInterval(session);
-  int month = session.BeginMonth;
+Outcome<TermInterest> CompoundedByDaysWithdrawnMonthly(const AccountTerms& terms,
+                                                       const Deposit& deposit, Fill fill) {
+  const auto& [periods, apart] = deposit.withdrawals;
+  const bool countsLeapDay = terms.year.countsLeapDay;
+  if (!deposit.begin.ok() || terms.compounding.length != 1) return Failure::NotComputable;
+  const auto withdrawals = StepCount(periods);
+  const auto totalDays = StepCount(MonthPeriodDays(deposit.begin, periods, apart, countsLeapDay));
+  if (!withdrawals || !totalDays) return Failure::NotComputable;
+  if (fill == Fill::Demanded && *totalDays != deposit.term) {
+    return Failure::WithdrawalPeriodsDisagree;
+  }
+  const double dailyRate = PeriodicRate(deposit.rate, deposit.factorDays);
+  const int monthsEach = static_cast<int>(apart);
+  std::chrono::year_month month = deposit.begin;
   double total = 0;
   for (int k = 0; k<*withdrawals&& * totalDays> 0; ++k) {
-    const int days = static_cast<int>(DaysFrom(session, month, monthsEach));
-    total += InterestOfSteps(principal, ratePerStep, days);
-    RoundValue(session, total, 0);
-    month = MonthAfter(month, static_cast<int>(monthsEach));
+    const auto days = static_cast<int>(MonthsInDays(month, monthsEach, countsLeapDay));
+    total = RoundIntermediate(total + InterestOfDays(deposit.balance, dailyRate, days));
+    month = MonthInSameYear(month, monthsEach);
   }
-  interest = total;
-  return std::nullopt;
+  return TermInterest{total, deposit.term};
 }
 
-std::optional<Refusal> CalcMonthlyInterestWithdrawals(SessionRecord& session, double dailyRate,
-                                                      double principal, double& interest) {
-  const auto withdrawals = StepCount(session.WdrwlPeriods);
-  const auto compoundings = StepCount(session.EnteredTerm / session.WdrwlPeriods);
-  if (!withdrawals || !compoundings) return NotComputable();
+Outcome<TermInterest> CompoundedByMonthsWithdrawnMonthly(const AccountTerms& terms,
+                                                         const Deposit& deposit, double termDays) {
+  const auto& [periods, apart] = deposit.withdrawals;
+  const auto withdrawals = StepCount(periods);
+  const auto compoundings = StepCount(deposit.term / periods);
+  if (!withdrawals || !compoundings) return Failure::NotComputable;
   const double steps = static_cast<double>(*withdrawals) * *compoundings;
-  if (!StepCount(steps)) return NotComputable();
-  if (session.BtwnReqIntWdrwl * session.WdrwlPeriods != steps * CompoundingInterval(session)) {
-    return WithdrawalPeriodsDisagree();
+  if (!StepCount(steps)) return Failure::NotComputable;
+  if (apart * periods != steps * terms.compounding.length) {
+    return Failure::WithdrawalPeriodsDisagree;
   }
-  int month = session.BeginMonth;
+  const double dailyRate = PeriodicRate(deposit.rate, deposit.factorDays);
+  const int monthsEach = *compoundings * terms.compounding.length;
   double total = 0;
+  std::chrono::year_month month = deposit.begin;
   for (int k = 0; k < *withdrawals; ++k) {
-    total += InterestOfMonths(session, dailyRate, principal, *compoundings, month);
+    total += InterestOfMonths(terms, dailyRate, deposit.balance, month, *compoundings);
+    month = MonthInSameYear(month, monthsEach);
   }
-  interest = total;
-  return std::nullopt;
+  return TermInterest{total, termDays};
 }
 
 }  // namespace corvane

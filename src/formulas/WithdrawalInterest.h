@@ -1,42 +1,23 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
-
-#include "account/Refusal.h"
+#include "formulas/TermInterest.h"
 
 namespace corvane {
 
-struct SessionRecord;
-
 // Interest of a term in which interest must be withdrawn (Regulation DD, Appendix A, Part I.A: the
-// interest withdrawn earns no further interest). All three read W, the number of withdrawal
-// periods, from WdrwlPeriods and N from CompoundingDays; interest is unrounded. More than a
-// million steps are refused as not computable; a refusal leaves the arguments as they were.
+// interest withdrawn earns no further interest). The deposit is one that InterestOfTerm takes.
 
-/// Compounding every N days, interest withdrawn every so many days.
-/// @param rate percent a year
-/// @param denominator days of the year of the daily rate factor
-/// @param principal grows by the interest of all withdrawal periods when W is above 1
-/// @param term number of N-day periods; comes back as days
-/// @param interest stays as it is when W is below 1
-std::optional<Refusal> CalcDailyInterestDayWithdrawals(SessionRecord& session, double rate,
-                                                       double denominator, double& principal,
-                                                       double& term, double& interest);
+/// Compounding every N days, interest withdrawn W times in the term. Fails for a W below 1.
+Outcome<TermInterest> WithdrawnEveryDays(const AccountTerms& terms, const Deposit& deposit);
 
-/// Steps of one day, interest withdrawn every M months (BtwnReqIntWdrwl), counted from BeginMonth.
-/// @param dailyRate fraction a day
-/// @param term days of the term
-/// @param firstPeriod 1 when the days of the withdrawal periods have to fill the term
-std::optional<Refusal> CalcDailyInterestMonthWithdrawals(SessionRecord& session, double dailyRate,
-                                                         double principal, double term,
-                                                         double& interest,
-                                                         std::int16_t firstPeriod);
+/// Daily compounding, interest withdrawn W times, every M months counted from `begin`. The term is
+/// in days; the days of the W x M months have to be the same where filling is demanded.
+Outcome<TermInterest> CompoundedByDaysWithdrawnMonthly(const AccountTerms& terms,
+                                                       const Deposit& deposit, Fill fill);
 
-/// Compounding every N months by the days of those months, interest withdrawn every M months. The
-/// number of N-month periods in the term is read from EnteredTerm; M x W months have to fill it.
-/// @param dailyRate fraction a day
-std::optional<Refusal> CalcMonthlyInterestWithdrawals(SessionRecord& session, double dailyRate,
-                                                      double principal, double& interest);
+/// Compounding every N months by the days of those months, interest withdrawn W times, every M
+/// months. M x W months have to fill the term, which has so many days.
+Outcome<TermInterest> CompoundedByMonthsWithdrawnMonthly(const AccountTerms& terms,
+                                                         const Deposit& deposit, double termDays);
 
 }  // namespace corvane

@@ -4,7 +4,7 @@
 #include <QUrl>
 
 #include "platform/MessageBox.h"
-#include "platform/ProgramFolder.h"
+#include "support/Paths.h"
 #include "support/ProgramTitle.h"
 
 namespace corvane {
@@ -16,7 +16,7 @@ void ShowHelp(QWidget* parent, const std::filesystem::path& file, int /*context*
                       QDesktopServices::openUrl(QUrl::fromLocalFile(path));
   if (opened) return;
   ShowMessage(parent, "The help file is missing or cannot be opened: " + path, kProgramTitle,
-              MessageIcon::Exclamation);
+              QMessageBox::Warning);
 }
 
 }  // namespace corvane

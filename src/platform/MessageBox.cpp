@@ -21,10 +21,9 @@ int Run(QMessageBox& box) {
 
 }  // namespace
 
-void ShowMessage(QWidget* parent, const QString& text, const QString& title, MessageIcon icon) {
-  const auto picture =
-      icon == MessageIcon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon;
-  QMessageBox box(picture, title, text, QMessageBox::Ok, parent);
+void ShowMessage(QWidget* parent, const QString& text, const QString& title,
+                 QMessageBox::Icon icon) {
+  QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
   Run(box);
 }
 

@@ -4,13 +4,12 @@
 
 #include <QMessageBox>
 
-#include "account/Refusal.h"
-
 namespace corvane {
 
 /// Shows a modal message box with an OK button and returns when it was answered. The text is
 /// shown as it stands; nothing in it is taken for markup.
-void ShowMessage(QWidget* parent, const QString& text, const QString& title, MessageIcon icon);
+void ShowMessage(QWidget* parent, const QString& text, const QString& title,
+                 QMessageBox::Icon icon);
 
 /// Asks with the buttons Yes and No; true for Yes.
 bool AskYesNo(QWidget* parent, const QString& text, const QString& title);

@@ -4,18 +4,12 @@
 #include <QDir>
 #include <QStandardPaths>
 
+#include "support/Paths.h"
+
 namespace corvane {
 
-namespace {
-
-std::filesystem::path PathOf(const QString& text) {
-  return std::filesystem::path(text.toStdU16String());
-}
-
-}  // namespace
-
 std::filesystem::path ProgramFolder() {
-  return PathOf(QCoreApplication::applicationDirPath()).make_preferred();
+  return PathOf(QCoreApplication::applicationDirPath().toStdString()).make_preferred();
 }
 
 std::filesystem::path HelpFile() {
@@ -27,13 +21,8 @@ std::filesystem::path SettingsFile() {
 }
 
 std::filesystem::path DocumentsFolder() {
-  return PathOf(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-      .make_preferred();
-}
-
-std::string PathText(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return std::string(text.begin(), text.end());
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return PathOf(folder.toStdString()).make_preferred();
 }
 
 }  // namespace corvane

@@ -13,7 +13,4 @@ std::filesystem::path SettingsFile();  ///< CORVANE.INI in the program's folder
 /// The person's documents folder as the desktop names it; empty when there is none.
 std::filesystem::path DocumentsFolder();
 
-/// A path as windows show it, with the platform's own separators.
-std::string PathText(const std::filesystem::path& path);
-
 }  // namespace corvane

@@ -17,6 +17,18 @@ void KeepInsideWorkArea(QWidget& window) {
   window.resize(window.size().boundedTo(area.size()));
 }
 
+QPoint CenteredPlace(const QRect& workArea, const QSize& window) {
+  if (window.width() > workArea.width() || window.height() > workArea.height()) {
+    return workArea.topLeft();
+  }
+  return {(workArea.width() - window.width()) / 2, (workArea.height() - window.height()) / 2};
+}
+
+void CenterInWorkArea(QWidget& window) {
+  KeepInsideWorkArea(window);
+  window.move(CenteredPlace(WorkArea(window), window.size()));
+}
+
 void PlaceOver(QWidget& window, const QWidget& other) {
   const QRect area = WorkArea(other);
   QRect place(QPoint(), window.size());

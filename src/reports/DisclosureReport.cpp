@@ -1,8 +1,5 @@
 #include "reports/DisclosureReport.h"
 
-#include <algorithm>
-
-#include "account/SessionRecord.h"
 #include "reports/HtmlText.h"
 #include "reports/ReportTags.h"
 #include "support/NumberText.h"
@@ -11,24 +8,14 @@ namespace corvane {
 
 namespace {
 
-using Rows = std::vector<std::string>;
+constexpr const char* kNotYet = "N/A";
 
-std::string CompoundingText(const SessionRecord& session) {
-  if (session.CompoundYears) return "Years";
-  if (session.CompoundMonths) return "Months";
-  if (session.CompoundDays) return "Days";
-  if (session.CompoundNone) return "None";
-  return "";
+std::string CompoundingTerm(const DisclosureSetup& setup) {
+  return setup.compounding == Unit::None ? "None" : std::to_string(PeriodLength(setup));
 }
 
-std::string CompoundingTerm(const SessionRecord& session) {
-  return session.CompoundNone ? "None" : FormatPlain(session.CompoundingDays);
-}
-
-std::string WithdrawalText(const SessionRecord& session) {
-  if (session.ReqWdrwlDays) return "Days";
-  if (session.ReqWdrwlMonths) return "Months";
-  return "Not Required";
+const char* WithdrawalText(Unit withdrawal) {
+  return withdrawal == Unit::None ? "Not Required" : UnitText(withdrawal);
 }
 
 std::string LabelledLine(std::string_view label, double number) {
@@ -37,9 +24,9 @@ std::string LabelledLine(std::string_view label, double number) {
 
 /// The withdrawals stand at the end of the line with the days of the year: how many, and how far
 /// apart where that was entered.
-std::string WithdrawalLines(const DisclosureReportEntry& entry) {
-  const double periods = NumericValue(entry.txtWdrwlPeriods);
-  const double monthsBetween = NumericValue(entry.txtBtwnReqIntWdrwl);
+std::string WithdrawalLines(const DisclosureEntry& entry) {
+  const double periods = entry.txtWdrwlPeriods.Value();
+  const double monthsBetween = entry.txtBtwnReqIntWdrwl.Value();
   if (periods == 0) return "";
   std::string lines = LabelledLine("Required Interest Withdrawals: ", periods);
   if (monthsBetween != 0) {
@@ -48,19 +35,19 @@ std::string WithdrawalLines(const DisclosureReportEntry& entry) {
   return lines + "<br>";
 }
 
-TagList Tags(const SessionRecord& session, const DisclosureReportEntry& entry) {
-  TagList tags = CommonTags(session);
-  for (auto& [tag, value] : tags) {
-    if (tag == "^drf^") value.lineEnd = WithdrawalLines(entry);
-  }
-  tags.insert(tags.end(), {
-                              {"^MainHeading^", {AccountTypeHeading(session), ""}},
-                              {"^acctnum^", {EscapeHtml(session.AccountHolder), ""}},
-                              {"^intcmpd^", {CompoundingText(session), ""}},
-                              {"^intwd^", {WithdrawalText(session), ""}},
-                              {"^cmpdterm^", {CompoundingTerm(session), ""}},
-                              {"^PerTier^", {kLineNoHeading, ""}},
-                          });
+/// Withdrawals are those of the newest period or tier.
+Tags TagsOf(const AccountHeader& header, const DisclosureCheck& check, const Date& today) {
+  const DisclosureResult& result = check.result.value();
+  Tags tags = CommonTags(header, result.factorDays, today);
+  tags["^drf^"].lineEnd = WithdrawalLines(check.entries.at(result.rows.size() - 1));
+  tags.insert({
+      {"^MainHeading^", {AccountTypeHeading(check.setup.kind.value())}},
+      {"^acctnum^", {EscapeHtml(header.holder)}},
+      {"^intcmpd^", {UnitText(check.setup.compounding)}},
+      {"^intwd^", {WithdrawalText(check.setup.withdrawal)}},
+      {"^cmpdterm^", {CompoundingTerm(check.setup)}},
+      {"^PerTier^", {kLineNoHeading}},
+  });
   return tags;
 }
 
@@ -68,68 +55,84 @@ std::string Row(const std::string& cells) {
   return std::string(kRowStart).append(cells).append(kRowEnd);
 }
 
-std::string RegularRow(const SessionRecord& session, const DisclosureReportEntry& entry,
-                       int lineNo) {
-  const std::string& verdict = session.ApyVerdict;
-  return Row(PlainCell(FormatWhole(lineNo)) + PlainCell(DollarText(entry.txtBal)) +
-             PlainCell(FieldText(entry.txtIntRateA) + "%") + PlainCell(FieldText(entry.txtTerm)) +
-             PlainCell(DollarText(session.ComputedInterest)) +
-             PlainCell(FieldText(entry.txtDiscAPY) + "%") +
-             PlainCell(FormatGrouped2(session.ComputedApy) + "%") +
-             (IsOk(verdict) ? BlackCell(verdict) : RedCell(verdict)));
+std::string RegularRow(const DisclosureEntry& entry, const ResultRow& row, int lineNo) {
+  const bool isOk = row.verdict.value() == Verdict::Ok;
+  const char* verdict = VerdictText(*row.verdict);
+  return Row(PlainCell(std::to_string(lineNo)) + PlainCell(DollarText(entry.txtBal.Value())) +
+             PlainCell(CellText(entry.txtIntRateA.text) + "%") +
+             PlainCell(CellText(entry.txtTerm.text)) + PlainCell(DollarText(row.interest)) +
+             PlainCell(CellText(entry.txtDiscAPY.text) + "%") +
+             PlainCell(FormatGrouped2(row.apy.value()) + "%") +
+             (isOk ? BlackCell(verdict) : RedCell(verdict)));
 }
 
-/// The seven cells of a stored row before its verdict.
-std::string StoredCells(const SessionRecord& session, int row, const std::string& balanceCell) {
-  return PlainCell(session.RptLineNo.At(row)) + balanceCell + PlainCell(session.RptRate.At(row)) +
-         PlainCell(session.RptTerm.At(row)) + PlainCell(session.RptInterest.At(row)) +
-         PlainCell(session.RptDisclosedApy.At(row)) + PlainCell(session.RptComputedApy.At(row));
+std::string PercentText(double percent) {
+  return FormatRate(percent) + "%";
 }
 
-/// Only the newest period has a verdict, and a period still to be entered has no figures at all.
-std::string SteppedRow(const SessionRecord& session, int row) {
-  const std::string balance = session.RptBalance.At(row);
-  const std::string verdict = session.RptVerdict.At(row);
-  std::string verdictCell{kEmptyCell};
-  if (IsOk(verdict)) verdictCell = PlainCell(verdict);
-  if (verdict == "APY VIOLATION") verdictCell = BoldRedCell(verdict);
-  const std::string balanceCell = balance.empty() ? std::string(kEmptyCell) : PlainCell(balance);
-  return Row(StoredCells(session, row, balanceCell) + verdictCell);
+/// The rates of all tiers up to this one: "5.25/5.5%".
+std::string ScheduleText(const std::vector<double>& rates) {
+  std::string text;
+  for (double rate : rates) text += (text.empty() ? "" : "/") + FormatPlain(rate);
+  return text + "%";
 }
 
-std::string TieredRow(const SessionRecord& session, int row) {
-  return Row(StoredCells(session, row, PlainCell(session.RptBalance.At(row))) +
-             BoldVerdictCell(session.RptVerdict.At(row)));
+/// The seven cells of a result row before its verdict.
+std::string FigureCells(const ResultRow& row, const std::string& rate) {
+  return PlainCell(std::to_string(row.number)) +
+         (row.balance ? PlainCell(DollarText(*row.balance)) : std::string(kEmptyCell)) +
+         PlainCell(rate) + PlainCell(FormatTerm(row.term)) + PlainCell(DollarText(row.interest)) +
+         PlainCell(PercentText(row.disclosedApy)) +
+         PlainCell(row.apy ? PercentText(*row.apy) : kNotYet);
+}
+
+/// Only the newest period has a verdict.
+std::string SteppedVerdictCell(const std::optional<Verdict>& verdict) {
+  if (!verdict) return std::string(kEmptyCell);
+  return *verdict == Verdict::Ok ? PlainCell(VerdictText(*verdict)) : BoldVerdictCell(*verdict);
+}
+
+std::string UnfilledRow() {
+  const std::string blank = PlainCell("");
+  return Row(blank + std::string(kEmptyCell) + blank + blank + blank + blank + blank +
+             std::string(kEmptyCell));
 }
 
 /// The period to be entered next shows as an unfilled row, but never one beyond the last.
-int SteppedRowCount(const SessionRecord& session) {
-  return std::min<int>(session.TierPeriodCounter + 1, session.TierPerNum);
-}
-
-template <class RowFunction>
-Rows StoredRows(const SessionRecord& session, int count, RowFunction row) {
+Rows SteppedRows(const DisclosureCheck& check) {
   Rows rows;
-  for (int i = 1; i <= count; ++i) rows.push_back(row(session, i));
+  for (const ResultRow& row : check.result->rows) {
+    rows.push_back(
+        Row(FigureCells(row, PercentText(row.rates.at(0))) + SteppedVerdictCell(row.verdict)));
+  }
+  const int periods = WholeNumber(check.entries.at(0).txtTierPerNum.text).value_or(0);
+  if (static_cast<int>(rows.size()) < periods) rows.push_back(UnfilledRow());
   return rows;
 }
 
-Rows RowsOf(const SessionRecord& session, const DisclosureReportEntry& entry, int markerLine) {
-  if (session.AcctRegular) return {RegularRow(session, entry, markerLine)};
-  if (session.AcctStepped) return StoredRows(session, SteppedRowCount(session), SteppedRow);
-  if (session.AcctTierA) return StoredRows(session, session.TotalTiers, TieredRow);
-  if (session.AcctTierB) return StoredRows(session, session.PeriodCount, TieredRow);
-  return {};
+Rows TierRows(const DisclosureCheck& check) {
+  const bool byMethodB = check.setup.kind == AccountKind::TierB;
+  Rows rows;
+  for (const ResultRow& row : check.result->rows) {
+    const std::string rate = byMethodB ? ScheduleText(row.rates) : PercentText(row.rates.at(0));
+    rows.push_back(Row(FigureCells(row, rate) + BoldVerdictCell(row.verdict.value())));
+  }
+  return rows;
+}
+
+MarkedRows RowsOf(const DisclosureCheck& check) {
+  if (check.setup.IsTiered()) return SameRows(kRowMarker, TierRows(check));
+  if (check.setup.kind == AccountKind::Stepped) return SameRows(kRowMarker, SteppedRows(check));
+  return {kRowMarker, [entry = check.entries.at(0), row = check.result->rows.at(0)](int lineNo) {
+            return Rows{RegularRow(entry, row, lineNo)};
+          }};
 }
 
 }  // namespace
 
-ReportContent DisclosureReport(const SessionRecord& session, const DisclosureReportEntry& entry) {
-  return {ResolveFrom(Tags(session, entry)),
-          [&session, entry](std::string_view, int markerLine) {
-            return RowsOf(session, entry, markerLine);
-          },
-          {kRowMarker}};
+ReportContent DisclosureReport(const AccountHeader& header, const DisclosureCheck& check,
+                               const Date& today) {
+  return {TagsOf(header, check, today), {RowsOf(check)}};
 }
 
 }  // namespace corvane

@@ -43,16 +43,16 @@ std::string EscapeHtml(std::string_view text) {
   return escaped;
 }
 
-std::string FieldText(std::string_view text) {
-  return EscapeHtml(Trim(text));
-}
-
-std::string DollarText(std::string_view text) {
-  return DollarText(NumericValue(text));
+std::string CellText(std::string_view typed) {
+  return EscapeHtml(Trim(typed));
 }
 
 std::string DollarText(double amount) {
   return "$" + FormatGrouped2(amount);
+}
+
+const char* VerdictText(Verdict verdict) {
+  return verdict == Verdict::Ok ? "OK" : "APY VIOLATION";
 }
 
 std::string PlainCell(std::string_view text) {
@@ -71,12 +71,9 @@ std::string BoldRedCell(std::string_view text) {
   return Enclosed("<TD><b><Font Color=\"#FF0000\">", text, "</b></TD>");
 }
 
-bool IsOk(std::string_view verdict) {
-  return verdict == "OK";
-}
-
-std::string BoldVerdictCell(std::string_view verdict) {
-  return IsOk(verdict) ? BlackCell(verdict) : BoldRedCell(verdict);
+std::string BoldVerdictCell(Verdict verdict) {
+  const char* text = VerdictText(verdict);
+  return verdict == Verdict::Ok ? BlackCell(text) : BoldRedCell(text);
 }
 
 }  // namespace corvane

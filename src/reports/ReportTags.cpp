@@ -1,52 +1,68 @@
 #include "reports/ReportTags.h"
 
-#include "account/SessionRecord.h"
+#include "account/DailyRateFactor.h"
 #include "reports/HtmlText.h"
-#include "support/Clock.h"
 #include "support/NumberText.h"
 
 namespace corvane {
 
 namespace {
 
-/// A statement account compounds every so many days or not at all.
-std::string StatementCompounding(const SessionRecord& session) {
-  if (session.CompoundDays) return "Days";
-  return session.CompoundNone ? "None" : "";
+std::string CompoundingTerm(const StatementSetup& setup) {
+  return setup.compounding == Unit::None ? "" : std::to_string(CompoundingDays(setup));
 }
 
 }  // namespace
 
-TagList CommonTags(const SessionRecord& session) {
+Tags CommonTags(const AccountHeader& header, double factorDays, const Date& today) {
   return {
-      {"^instname^", {EscapeHtml(session.InstitutionName), ""}},
-      {"^depname^", {EscapeHtml(session.AccountDescription), ""}},
-      {"^rundate^", {FormatDate(Today()), ""}},
-      {"^drf^", {FormatPlain(session.DaysInYear), ""}},
+      {"^instname^", {EscapeHtml(header.institution)}},
+      {"^depname^", {EscapeHtml(header.description)}},
+      {"^rundate^", {FormatDate(today)}},
+      {"^drf^", {FormatPlain(factorDays)}},
   };
 }
 
-TagList StatementTags(const SessionRecord& session, bool additionalApyFormula) {
-  TagList tags = CommonTags(session);
-  const std::string term = session.CompoundNone ? "" : FormatPlain(session.CompoundingDays);
-  tags.insert(tags.end(),
-              {
-                  {"^acctuser^", {EscapeHtml(session.AccountHolder), ""}},
-                  {"^acctnum^", {EscapeHtml(session.AccountNumber), ""}},
-                  {"^intcalc^", {session.UseAdb ? "ADB" : "Daily Balance", ""}},
-                  {"^intcmpd^", {StatementCompounding(session), ""}},
-                  {"^cmpdterm^", {term, ""}},
-                  {"^addapy^", {additionalApyFormula ? "Additional APY" : "No Additional APY", ""}},
-              });
+Tags StatementTags(const AccountHeader& header, const StatementCheck& check, const Date& today) {
+  const auto factorDays = FactorDays(check.entry.txtDRFactor.text);
+  Tags tags = CommonTags(header, factorDays.value_or(check.setup.year.days), today);
+  tags.insert({
+      {"^acctuser^", {EscapeHtml(header.holder)}},
+      {"^acctnum^", {EscapeHtml(header.number)}},
+      {"^intcalc^", {check.entry.UsesAdb() ? "ADB" : "Daily Balance"}},
+      {"^intcmpd^", {UnitText(check.setup.compounding)}},
+      {"^cmpdterm^", {CompoundingTerm(check.setup)}},
+      {"^addapy^", {check.setup.additionalFormula ? "Additional APY" : "No Additional APY"}},
+  });
   return tags;
 }
 
-std::string AccountTypeHeading(const SessionRecord& session) {
-  if (session.AcctRegular) return "REGULAR RATE";
-  if (session.AcctStepped) return "STEPPED RATE";
-  if (session.AcctTierA) return "TIERING Method A";
-  if (session.AcctTierB) return "TIERING Method B";
+const char* AccountTypeHeading(AccountKind kind) {
+  switch (kind) {
+    case AccountKind::Regular:
+      return "REGULAR RATE";
+    case AccountKind::Stepped:
+      return "STEPPED RATE";
+    case AccountKind::TierA:
+      return "TIERING Method A";
+    case AccountKind::TierB:
+      return "TIERING Method B";
+  }
   return "";
+}
+
+const char* UnitText(Unit unit) {
+  switch (unit) {
+    case Unit::Days:
+      return "Days";
+    case Unit::Months:
+      return "Months";
+    case Unit::Years:
+      return "Years";
+    case Unit::None:
+      break;
+  }
+  return "None";
 }
 
 }  // namespace corvane

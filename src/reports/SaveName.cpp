@@ -1,6 +1,6 @@
 #include "reports/SaveName.h"
 
-#include "reports/ReportFile.h"
+#include "support/Paths.h"
 
 namespace corvane {
 
@@ -13,17 +13,15 @@ std::string SaveNameFor(const std::string& name) {
 
 }  // namespace
 
-std::string SavePathFor(std::string_view chosenPath) {
-  const std::filesystem::path chosen = PathOf(chosenPath);
-  const std::string name = Utf8Of(chosen.filename());
-  const std::string saveName = SaveNameFor(name);
-  if (saveName == name) return std::string(chosenPath);
-  return Utf8Of(chosen.parent_path() / PathOf(saveName));
+std::filesystem::path SavePathFor(const std::filesystem::path& chosen) {
+  std::filesystem::path path = chosen;
+  return path.replace_filename(PathOf(SaveNameFor(PathText(chosen.filename()))));
 }
 
-bool MustAskBeforeReplacing(std::string_view chosenPath, std::string_view savePath) {
+bool MustAskBeforeReplacing(const std::filesystem::path& chosen,
+                            const std::filesystem::path& savePath) {
   std::error_code ignored;
-  return chosenPath != savePath && std::filesystem::exists(PathOf(savePath), ignored);
+  return chosen != savePath && std::filesystem::exists(savePath, ignored);
 }
 
 std::string SavedText(std::string_view reportText) {

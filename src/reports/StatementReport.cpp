@@ -1,6 +1,5 @@
 #include "reports/StatementReport.h"
 
-#include "account/SessionRecord.h"
 #include "reports/HtmlText.h"
 #include "reports/ReportTags.h"
 #include "support/NumberText.h"
@@ -9,40 +8,42 @@ namespace corvane {
 
 namespace {
 
-TagList Tags(const SessionRecord& session, const StatementReportEntry& entry) {
-  TagList tags = StatementTags(session, entry.optFormulaYes);
-  tags.insert(tags.end(), {
-                              {"^Rpt_Type^", {AccountTypeHeading(session), ""}},
-                              {"^minadb^", {DollarText(entry.txtMinADB), ""}},
-                              {"^mindbal^", {DollarText(entry.txtMinDBal), ""}},
-                              {"^intwd^", {"", ""}},
-                              {"^PerTier^", {kLineNoHeading, ""}},
-                          });
+Tags TagsOf(const AccountHeader& header, const StatementCheck& check, const Date& today) {
+  Tags tags = StatementTags(header, check, today);
+  tags.insert({
+      {"^Rpt_Type^", {AccountTypeHeading(check.setup.kind)}},
+      {"^minadb^", {DollarText(check.entry.txtMinADB.Value())}},
+      {"^mindbal^", {DollarText(check.entry.txtMinDBal.Value())}},
+      {"^intwd^", {""}},
+      {"^PerTier^", {kLineNoHeading}},
+  });
   return tags;
 }
 
 /// Stepped and tiered accounts have no one rate.
-std::string RateText(const SessionRecord& session, const StatementReportEntry& entry) {
-  const bool variable = session.AcctStepped || session.AcctTierA || session.AcctTierB;
-  return variable ? "variable" : FieldText(entry.txtIntRate) + "%";
+std::string RateText(const StatementCheck& check) {
+  const bool hasOneRate = check.setup.kind == AccountKind::Regular;
+  return hasOneRate ? CellText(check.entry.txtIntRate.text) + "%" : "variable";
 }
 
-std::string ResultRow(const SessionRecord& session, const StatementReportEntry& entry) {
-  return std::string(kRowStart) + PlainCell(RateText(session, entry)) +
-         PlainCell(FieldText(entry.txtDCompounding)) + PlainCell(DollarText(entry.txtIntAmt)) +
-         PlainCell(FieldText(entry.txtDClApy) + "%") +
-         PlainCell(FormatGrouped2(session.ComputedApy) + "%") + BoldVerdictCell(session.ApyVerdict);
+std::string RowOfResult(const StatementCheck& check) {
+  const StatementResult& result = check.result.value();
+  return std::string(kRowStart) + PlainCell(RateText(check)) +
+         PlainCell(CellText(check.setup.txtDCompounding.text)) +
+         PlainCell(DollarText(check.entry.txtIntAmt.Value())) +
+         PlainCell(CellText(check.entry.txtDClApy.text) + "%") +
+         PlainCell(FormatGrouped2(result.apy) + "%") + BoldVerdictCell(result.verdict);
 }
 
-std::string DaysCell(const std::string& days) {
-  return NumericValue(days) > 0 ? PlainCell(FieldText(days)) : std::string(kEmptyCell);
+std::string DaysCell(const Field& days) {
+  return days.Value() > 0 ? PlainCell(CellText(days.text)) : std::string(kEmptyCell);
 }
 
-std::string BalanceCell(const std::string& balance) {
-  return NumericValue(balance) != 0 ? PlainCell(DollarText(balance)) : std::string(kEmptyCell);
+std::string BalanceCell(const Field& balance) {
+  return balance.Value() != 0 ? PlainCell(DollarText(balance.Value())) : std::string(kEmptyCell);
 }
 
-std::string BalancesRow(const StatementReportEntry& entry) {
+std::string RowOfBalances(const StatementEntry& entry) {
   return std::string(kRowStart) + DaysCell(entry.txtLedgerdays) +
          BalanceCell(entry.txtADBLedgerBalance) + DaysCell(entry.txtColDays) +
          BalanceCell(entry.txtADBCollectedBalance);
@@ -50,13 +51,11 @@ std::string BalancesRow(const StatementReportEntry& entry) {
 
 }  // namespace
 
-ReportContent StatementReport(const SessionRecord& session, const StatementReportEntry& entry) {
-  return {ResolveFrom(Tags(session, entry)),
-          [&session, entry](std::string_view marker, int) -> std::vector<std::string> {
-            if (marker == kSecondRowMarker) return {BalancesRow(entry)};
-            return {ResultRow(session, entry)};
-          },
-          {kRowMarker, kSecondRowMarker}};
+ReportContent StatementReport(const AccountHeader& header, const StatementCheck& check,
+                              const Date& today) {
+  return {TagsOf(header, check, today),
+          {SameRows(kRowMarker, {RowOfResult(check)}),
+           SameRows(kSecondRowMarker, {RowOfBalances(check.entry)})}};
 }
 
 }  // namespace corvane

@@ -1,76 +1,40 @@
 #include "statement/DailyBalances.h"
 
-#include "account/SessionRecord.h"
-#include "formulas/AverageDailyBalance.h"
-#include "formulas/DayRate.h"
-#include "statement/StatementReset.h"
+#include <algorithm>
+#include <cmath>
+
+#include "formulas/DayInterest.h"
+#include "formulas/InterestByDay.h"
 
 namespace corvane {
 
 namespace {
 
 std::optional<double> NumberIn(const std::string& text) {
-  if (!IsNumeric(text)) return std::nullopt;
-  return NumericValue(text);
+  return IsNumeric(text) ? std::optional(NumericValue(text)) : std::nullopt;
 }
 
 double RuleRate(const DailyBalances& daily, const DayEntry& day) {
   return RateOfDay(daily.account, CountedBalance(day.balance.value_or(0)), day.rate.value_or(0));
 }
 
-std::vector<DayEntry> StoredDays(const SessionRecord& session, BalanceColumn column) {
-  const bool ledger = column == BalanceColumn::Ledger;
-  const auto& balances = ledger ? session.LedgerDayBalances : session.CollectedDayBalances;
-  const auto& rates = ledger ? session.LedgerDayRates : session.CollectedDayRates;
-  std::vector<DayEntry> days;
-  for (int day = 1; day <= balances.Last(); ++day) {
-    days.push_back({.balance = balances.At(day), .rate = rates.At(day)});
-  }
-  return days;
-}
-
-/// The days of a new account's window are empty, whatever the record still holds.
-void ForgetEarlierAccount(SessionRecord& session) {
-  if (session.DailyBalReset) ClearDayTables(session);
-  session.DailyBalReset = false;
-}
-
-template <class Pick>
-std::vector<double> EachDay(const DailyBalances& daily, Pick pick) {
+std::vector<double> OfEachDay(const DailyBalances& daily, std::optional<double> DayEntry::*value) {
   std::vector<double> values;
-  for (const DayEntry& day : daily.days) values.push_back(pick(day).value_or(0));
+  for (const DayEntry& day : daily.days) values.push_back((day.*value).value_or(0));
   return values;
+}
+
+double InterestHandedBack(const StatementAccount& account, const StatementInterest& computed) {
+  const bool bothMinimums = account.minimumAdb > 0 && account.minimumDailyBalance > 0;
+  const bool withheld = bothMinimums && account.method == BalanceMethod::DailyBalance;
+  return withheld || computed.averageBalance == 0 ? 0 : computed.interest.total;
 }
 
 }  // namespace
 
-std::optional<Refusal> LoadDailyBalances(SessionRecord& session, double interestRate,
-                                         DailyBalances& daily) {
-  session.ComputeFlag = false;
-  if (session.StatementDays < 1) {
-    return Refusal{.text = "Enter valid number of days", .field = {}};
-  }
-  ForgetEarlierAccount(session);
-  const auto count = static_cast<std::size_t>(session.StatementDays);
-  const BalanceColumn column =
-      session.LedgerBasis ? BalanceColumn::Ledger : BalanceColumn::Collected;
-  daily = {.account = AccountOf(session, interestRate),
-           .column = column,
-           .days = StoredDays(session, column),
-           .interest = {}};
-  if (daily.days.size() != count) {
-    daily.days.assign(count, {});
-    session.DetailData = false;
-    return std::nullopt;
-  }
-  FillRates(daily);
-  return std::nullopt;
-}
-
 DayTexts TextsOfDay(const DailyBalances& daily, std::size_t day) {
-  const DayEntry& entry = daily.days.at(day);
-  return {.balance = entry.balance ? FormatFixed2(*entry.balance) : std::string{},
-          .rate = entry.rate ? FormatRate(*entry.rate) : std::string{}};
+  const auto& [balance, rate] = daily.days.at(day);
+  return {.balance = balance ? FormatFixed2(*balance) : "", .rate = rate ? FormatRate(*rate) : ""};
 }
 
 DayTexts EnterBalance(DailyBalances& daily, std::size_t day, const std::string& balance) {
@@ -91,7 +55,6 @@ void TakeDay(DailyBalances& daily, std::size_t day, const DayTexts& row) {
 
 void ClearDays(DailyBalances& daily) {
   daily.days.assign(daily.days.size(), {});
-  daily.interest.clear();
 }
 
 void FillRates(DailyBalances& daily) {
@@ -99,12 +62,34 @@ void FillRates(DailyBalances& daily) {
   for (DayEntry& day : daily.days) day.rate = RuleRate(daily, day);
 }
 
-std::vector<double> BalancesOf(const DailyBalances& daily) {
-  return EachDay(daily, [](const DayEntry& day) { return day.balance; });
+std::variant<ComputedDays, Refusal> ComputeAdb(const DailyBalances& daily) {
+  const StatementInterest computed = InterestByDay(
+      daily.account, OfEachDay(daily, &DayEntry::balance), OfEachDay(daily, &DayEntry::rate));
+  if (!std::isfinite(computed.averageBalance) || !std::isfinite(computed.interest.total)) {
+    return RefusalOf(Failure::NotComputable);
+  }
+  ComputedDays days{.averageBalance = computed.averageBalance, .interest = {}};
+  if (GivesInterest(daily.basis, daily.column)) {
+    days.interest = InterestHandedBack(daily.account, computed);
+  }
+  return days;
 }
 
-std::vector<double> RatesOf(const DailyBalances& daily) {
-  return EachDay(daily, [](const DayEntry& day) { return day.rate; });
+DaySpan DaysOnPage(int page, std::size_t dayCount) {
+  const std::size_t first = kDaysPerPage * static_cast<std::size_t>(page - 1);
+  return {std::min(first, dayCount), std::min(first + kDaysPerPage, dayCount)};
+}
+
+bool HasNextPage(int page, std::size_t dayCount) {
+  return DaysOnPage(page, dayCount).end < dayCount;
+}
+
+std::string MinimumAdbText(const StatementAccount& account) {
+  return "Minimum Required ADB = " + FormatGroupedWhole(account.minimumAdb);
+}
+
+std::string MinimumDailyBalanceText(const StatementAccount& account) {
+  return "Minimum Required Daily Balance = " + FormatGroupedWhole(account.minimumDailyBalance);
 }
 
 }  // namespace corvane

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "account/Refusal.h"
-#include "statement/BalanceBasis.h"
-#include "statement/StatementAccount.h"
+#include "statement/StatementEntry.h"
 
 namespace corvane {
 
@@ -16,26 +17,22 @@ struct DayEntry {
   std::optional<double> rate;     ///< percent a year
 };
 
-/// What the daily window works on: one column's days, first day at 0.
+/// What the daily window works on: the days of one column, first day at 0.
 struct DailyBalances {
   StatementAccount account;
   BalanceColumn column = BalanceColumn::Ledger;
+  /// By the ledger average the ledger column hands back its average only.
+  BalanceBasis basis = BalanceBasis::Equal;
+  Date start{};  ///< the first day
   std::vector<DayEntry> days;
-  std::vector<double> interest;  ///< of each day, currency, once the ADB was computed
 
-  bool TakesRates() const { return account.kind == RateKind::Stepped; }
+  bool TakesRates() const { return account.kind == AccountKind::Stepped; }
 };
 
 struct DayTexts {
   std::string balance;
   std::string rate;
 };
-
-/// Opens the daily window on the column that LedgerBasis names: with the column's stored days when
-/// they fit StatementDays and the account is not new, else empty. `interestRate` is the regular
-/// account's rate, percent a year. Refuses a period of 0 days.
-std::optional<Refusal> LoadDailyBalances(SessionRecord& session, double interestRate,
-                                         DailyBalances& daily);
 
 /// How a day's row reads: balance with two decimals, rate with two to four, empty for nothing.
 DayTexts TextsOfDay(const DailyBalances& daily, std::size_t day);
@@ -53,7 +50,32 @@ void ClearDays(DailyBalances& daily);
 /// Works the rate of every day out anew, on all pages; a stepped account's stay as typed.
 void FillRates(DailyBalances& daily);
 
-std::vector<double> BalancesOf(const DailyBalances& daily);
-std::vector<double> RatesOf(const DailyBalances& daily);
+/// What "Compute ADB" hands back.
+struct ComputedDays {
+  double averageBalance = 0;       ///< currency, 2 decimals
+  std::optional<double> interest;  ///< currency, unrounded; nothing where the column gives none
+};
+
+/// The average of the days and the interest that they earn; with both minimums the daily balance
+/// method gives none (0). Figures that are not finite are refused.
+std::variant<ComputedDays, Refusal> ComputeAdb(const DailyBalances& daily);
+
+/// The rows of one page of the daily window.
+inline constexpr std::size_t kDaysPerPage = 33;
+
+/// Days of a period as positions, the first day at 0: from first on, without end.
+struct DaySpan {
+  std::size_t first;
+  std::size_t end;
+};
+
+/// The days that a page (1 to 3) shows: 1 to 33, 34 to 66, 67 to 96, as far as the period has them.
+DaySpan DaysOnPage(int page, std::size_t dayCount);
+/// Whether "Next" leads on from a page: while the period has days beyond it.
+bool HasNextPage(int page, std::size_t dayCount);
+
+/// lblMinADB and lblMinBal of the daily window.
+std::string MinimumAdbText(const StatementAccount& account);
+std::string MinimumDailyBalanceText(const StatementAccount& account);
 
 }  // namespace corvane

@@ -1,61 +1,128 @@
 #include "statement/StatementEntry.h"
 
-#include "account/SessionRecord.h"
-#include "statement/BalanceBasis.h"
-#include "statement/InterestMethod.h"
-#include "statement/StatementAccount.h"
+#include "account/DailyRateFactor.h"
 
 namespace corvane {
 
 namespace {
 
-void EmptyEntry(const SessionRecord& session, StatementEntry& entry) {
-  entry = StatementEntry{};
-  entry.optADB = session.UseAdb;
-  entry.optDailyBal = session.UseDailyBal;
-  // A new account's record still names the factor of the one before.
-  if (!session.DailyBalReset) entry.txtDRFactor.text = session.DailyRateFactor;
+using Entry = StatementEntry;
+
+constexpr FieldName<Entry> kFields[] = {
+    {"txtDateStart", &Entry::txtDateStart},
+    {"txtDateEnd", &Entry::txtDateEnd},
+    {"txtMinADB", &Entry::txtMinADB},
+    {"txtMinDBal", &Entry::txtMinDBal},
+    {"txtDClApy", &Entry::txtDClApy},
+    {"txtIntRate", &Entry::txtIntRate},
+    {"txtDRFactor", &Entry::txtDRFactor},
+    {"txtLedgerdays", &Entry::txtLedgerdays},
+    {"txtADBLedgerBalance", &Entry::txtADBLedgerBalance},
+    {"txtColDays", &Entry::txtColDays},
+    {"txtADBCollectedBalance", &Entry::txtADBCollectedBalance},
+    {"txtIntAmt", &Entry::txtIntAmt},
+};
+
+constexpr OptionName<Entry> kOptions[] = {
+    PlainOption<&Entry::method, BalanceMethod::DailyBalance, Entry>("optDailyBal"),
+    PlainOption<&Entry::method, BalanceMethod::AverageDailyBalance, Entry>("optADB"),
+    {"optLColl_Yes", [](const Entry& entry) { return entry.basis == BalanceBasis::Equal; },
+     [](Entry& entry) { ChooseLedgerEqualsCollected(entry, true); }},
+    {"optLColl_No", [](const Entry& entry) { return entry.basis != BalanceBasis::Equal; },
+     [](Entry& entry) { ChooseLedgerEqualsCollected(entry, false); }},
+    {"optLADBYes", [](const Entry& entry) { return entry.basis != BalanceBasis::CollectedAverage; },
+     [](Entry& entry) { ChooseLedgerAdb(entry, true); }},
+    {"optLADBNo", [](const Entry& entry) { return entry.basis == BalanceBasis::CollectedAverage; },
+     [](Entry& entry) { ChooseLedgerAdb(entry, false); }},
+};
+
+void EmptyLedger(Entry& entry, bool enabled) {
+  entry.txtLedgerdays = {.text = {}, .enabled = enabled};
+  entry.txtADBLedgerBalance = {.text = {}, .enabled = enabled};
 }
 
-/// An emptied stored factor says that the days in the year were chosen anew.
-void TakeFactor(SessionRecord& session, StatementEntry& entry, bool fresh) {
-  const bool takeDefault = fresh ? entry.txtDRFactor.text.empty() : session.DailyRateFactor.empty();
-  if (takeDefault) entry.txtDRFactor.text = session.DaysInYear365 ? "1/365" : "1/366";
-  session.DailyRateFactor = entry.txtDRFactor.text;
-}
-
-std::string KindText(RateKind kind) {
-  if (kind == RateKind::TierA) return "Tier A Account";
-  if (kind == RateKind::TierB) return "Tier B Account";
-  return kind == RateKind::Stepped ? "Variable Rate Account" : "Regular Account";
+void EmptyCollected(Entry& entry, bool daysEnabled, bool averageEnabled) {
+  entry.txtColDays = {.text = {}, .enabled = daysEnabled};
+  entry.txtADBCollectedBalance = {.text = {}, .enabled = averageEnabled};
 }
 
 }  // namespace
 
-void InitStatementEntry(SessionRecord& session, StatementEntry& entry, bool justMade) {
-  const bool fresh = justMade || session.NewStatementAcct;
-  session.NewStatementAcct = false;
-  if (fresh) EmptyEntry(session, entry);
-  TakeFactor(session, entry, fresh);
-  entry.txtIntRate.enabled = session.AcctRegular;
-  entry.lblAddAPY = session.AdditionalApy;
-  Set_Interest(session, entry, MethodChoice::Keep);
-  SetBalanceBasis(session, entry);
+std::span<const FieldName<Entry>> StatementEntry::Fields() {
+  return kFields;
 }
 
-std::string AccountInfoText(const SessionRecord& session) {
-  return KindText(RateKindOf(session)) + (session.CompoundDays
-                                              ? "      Interest Compounding = Days"
-                                              : "      Interest Compounding = None");
+std::span<const OptionName<Entry>> StatementEntry::Options() {
+  return kOptions;
+}
+
+const Field& StatementEntry::Average(BalanceColumn column) const {
+  return column == BalanceColumn::Ledger ? txtADBLedgerBalance : txtADBCollectedBalance;
+}
+
+Field& StatementEntry::Average(BalanceColumn column) {
+  return column == BalanceColumn::Ledger ? txtADBLedgerBalance : txtADBCollectedBalance;
+}
+
+const Field& StatementEntry::Days(BalanceColumn column) const {
+  return column == BalanceColumn::Collected && txtColDays.enabled ? txtColDays : txtLedgerdays;
+}
+
+void ChooseLedgerEqualsCollected(StatementEntry& entry, bool yes) {
+  entry.basis = yes ? BalanceBasis::Equal : BalanceBasis::LedgerAverage;
+  EmptyLedger(entry, true);
+  EmptyCollected(entry, false, !yes);
+}
+
+void ChooseLedgerAdb(StatementEntry& entry, bool yes) {
+  entry.basis = yes ? BalanceBasis::LedgerAverage : BalanceBasis::CollectedAverage;
+  EmptyLedger(entry, yes);
+  EmptyCollected(entry, true, true);
+}
+
+BalanceColumn BasisColumn(BalanceBasis basis) {
+  return basis == BalanceBasis::CollectedAverage ? BalanceColumn::Collected : BalanceColumn::Ledger;
+}
+
+bool BasisUses(BalanceBasis basis, BalanceColumn column) {
+  return basis == BalanceBasis::LedgerAverage || column == BasisColumn(basis);
+}
+
+bool GivesInterest(BalanceBasis basis, BalanceColumn column) {
+  return column == BalanceColumn::Collected || basis != BalanceBasis::LedgerAverage;
 }
 
 std::string InterestTypeText(const StatementEntry& entry) {
-  return entry.optDailyBal ? "Interest Amount (Daily Balance Method)     :"
-                           : "Interest Amount (ADB Method)               :";
+  return entry.method == BalanceMethod::DailyBalance
+             ? "Interest Amount (Daily Balance Method)     :"
+             : "Interest Amount (ADB Method)               :";
 }
 
-bool CalendarEnabled(const StatementEntry& entry) {
-  return entry.txtDateStart.enabled || entry.txtDateEnd.enabled;
+StatementEntry PresentEntry(const StatementSetup& setup, StatementEntry entry) {
+  if (LocksMethod(setup)) entry.method = BalanceMethod::DailyBalance;
+  entry.txtIntRate.enabled = setup.kind == AccountKind::Regular;
+  if (!entry.txtIntRate.enabled) entry.txtIntRate.text.clear();
+  if (entry.txtDRFactor.text.empty()) entry.txtDRFactor.text = DefaultFactor(setup.year.days);
+  return entry;
+}
+
+StatementEntry WithDemandedMethod(const StatementSetup& setup, StatementEntry entry) {
+  const bool minimumAdb = entry.txtMinADB.Value() > 0;
+  const bool minimumDaily = entry.txtMinDBal.Value() > 0;
+  if (LocksMethod(setup)) {
+    entry.method = BalanceMethod::DailyBalance;
+  } else if (minimumAdb != minimumDaily) {
+    entry.method = minimumAdb ? BalanceMethod::AverageDailyBalance : BalanceMethod::DailyBalance;
+  }
+  return entry;
+}
+
+std::optional<Refusal> FactorChanged(const StatementEntry& entry) {
+  constexpr std::size_t kWholeLength = 5;
+  const std::string& text = entry.txtDRFactor.text;
+  if (text.size() < kWholeLength || !entry.txtIntRate.enabled) return std::nullopt;
+  if (Trim(text).substr(0, 2).find('/') == 1) return std::nullopt;
+  return Refusal{"Please enter the valid Daily Rate factor", "txtDRFactor"};
 }
 
 }  // namespace corvane

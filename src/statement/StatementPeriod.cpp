@@ -2,9 +2,7 @@
 
 #include <algorithm>
 
-#include "account/SessionRecord.h"
 #include "formulas/TermCounting.h"
-#include "support/Clock.h"
 
 namespace corvane {
 
@@ -28,58 +26,40 @@ constexpr std::string_view kLeavesUncounted[] = {"txtDateStart", "txtDateEnd",  
                                                  "cmdBack",      "cmdNewAcct",    "cmdExit",
                                                  "mnuMain",      "mnuNewAccount", "mnuExit"};
 
-bool WantsDates(const StatementField& days, PeriodCaller caller) {
+bool WantsDates(const Field& days, PeriodCaller caller) {
   const std::string_view text = Trim(days.text);
   return days.enabled && (text == "0" || (caller == PeriodCaller::Calendar && text.empty()));
 }
 
-void StoreStart(SessionRecord& session, const Date& start) {
-  session.PeriodStart = SerialOf(start);
-  session.CurrentDay = session.PeriodStart;
-}
-
-void EmptyDates(StatementEntry& entry) {
-  entry.txtDateStart.text = kEmptyDateMask;
-  entry.txtDateEnd.text = kEmptyDateMask;
-}
-
-void FillDays(StatementEntry& entry, PeriodCaller caller, int days) {
-  for (StatementField* field : {&entry.txtLedgerdays, &entry.txtColDays}) {
+void FillPeriod(StatementEntry& entry, PeriodCaller caller, int days) {
+  for (Field* field : {&entry.txtLedgerdays, &entry.txtColDays}) {
     if (WantsDates(*field, caller)) field->text = FormatPlain(days);
   }
 }
 
-std::optional<Refusal> CountPeriod(SessionRecord& session, StatementEntry& entry,
+}  // namespace
+
+std::optional<Refusal> CountPeriod(const YearRule& year, StatementEntry& entry,
                                    PeriodCaller caller) {
-  const PeriodMessages& messages =
-      caller == PeriodCaller::DaysField ? kDaysFieldMessages : kMessages;
-  const auto start = ParseDate(entry.txtDateStart.text);
-  if (!start) return Refusal{.text = messages.start, .field = "txtDateStart"};
-  const auto end = ParseDate(entry.txtDateEnd.text);
-  if (!end) return Refusal{.text = messages.end, .field = "txtDateEnd"};
-  StoreStart(session, *start);
-  const int days = CalendarTermDays(*start, *end, session.CountLeapDay);
-  if (days < 1 || days > kLongestPeriod) {
-    EmptyDates(entry);
-    return Refusal{.text = messages.length, .field = "txtDateStart"};
+  if (!WantsDates(entry.txtLedgerdays, caller) && !WantsDates(entry.txtColDays, caller)) {
+    return std::nullopt;
   }
-  entry.txtDateStart.text = FormatDate(*start);
-  entry.txtDateEnd.text = FormatDate(*end);
-  FillDays(entry, caller, days);
+  const auto& messages = caller == PeriodCaller::DaysField ? kDaysFieldMessages : kMessages;
+  const auto start = ParseDate(entry.txtDateStart.text);
+  if (!start) return Refusal{messages.start, "txtDateStart"};
+  const auto end = ParseDate(entry.txtDateEnd.text);
+  if (!end) return Refusal{messages.end, "txtDateEnd"};
+  const int days = CalendarTermDays(*start, *end, year.countsLeapDay);
+  if (days < 1 || days > kLongestPeriod) {
+    entry.txtDateStart.text = entry.txtDateEnd.text = kEmptyDateMask;
+    return Refusal{messages.length, "txtDateStart"};
+  }
+  FillPeriod(entry, caller, days);
   return std::nullopt;
 }
 
-}  // namespace
-
-std::optional<Refusal> CheckStatementPeriod(SessionRecord& session, StatementEntry& entry,
-                                            PeriodCaller caller) {
-  const bool wanted =
-      WantsDates(entry.txtLedgerdays, caller) || WantsDates(entry.txtColDays, caller);
-  return wanted ? CountPeriod(session, entry, caller) : std::nullopt;
-}
-
-void StorePeriodStart(SessionRecord& session, const StatementEntry& entry) {
-  StoreStart(session, ParseDate(entry.txtDateStart.text).value_or(Today()));
+Date PeriodStart(const StatementEntry& entry, const Date& today) {
+  return ParseDate(entry.txtDateStart.text).value_or(today);
 }
 
 bool LeavingCountsPeriod(std::string_view nextControl) {

@@ -3,7 +3,6 @@
 #include <optional>
 #include <string_view>
 
-#include "account/Refusal.h"
 #include "statement/StatementEntry.h"
 
 namespace corvane {
@@ -15,14 +14,13 @@ inline constexpr int kLongestPeriod = 96;
 enum class PeriodCaller { Button, Calendar, DaysField };
 
 /// Fills every enabled days field that holds "0" (after the calendar also an empty one) with the
-/// days between the two dates, less the 29 Februaries that do not count, and stores the start
-/// date. Refuses dates that are none, and a period of fewer than 1 or more than 96 days, whose
-/// dates are emptied.
-std::optional<Refusal> CheckStatementPeriod(SessionRecord& session, StatementEntry& entry,
-                                            PeriodCaller caller);
+/// days between the two dates, less the 29 Februaries that do not count. Refuses dates that are
+/// none, and a period of fewer than 1 or more than 96 days, whose dates are emptied.
+std::optional<Refusal> CountPeriod(const YearRule& year, StatementEntry& entry,
+                                   PeriodCaller caller);
 
-/// Stores the day on which the period starts: the start date where it is valid, else today.
-void StorePeriodStart(SessionRecord& session, const StatementEntry& entry);
+/// The first day of the period: the start date where it is valid, else today.
+Date PeriodStart(const StatementEntry& entry, const Date& today);
 
 /// Whether leaving a days field for the named control (or menu item) counts the period: not on
 /// the way to the dates and not on the way out of the window.

@@ -8,7 +8,8 @@ using namespace std::chrono;
 
 namespace {
 
-constexpr sys_days kDayZero{year{1899} / December / 30};
+constexpr const char* kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                   "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 constexpr int kFirstYear = 1901;
 constexpr int kLastYear = 9999;
 
@@ -23,15 +24,6 @@ int DigitsAt(std::string_view text, std::size_t first, std::size_t length) {
 }
 
 }  // namespace
-
-DateSerial SerialOf(const Date& date) {
-  return static_cast<DateSerial>((sys_days{date} - kDayZero).count());
-}
-
-std::optional<Date> DateOf(DateSerial serial) {
-  if (serial <= 0) return std::nullopt;
-  return Date{kDayZero + days{static_cast<int>(serial)}};
-}
 
 std::optional<Date> ParseDate(std::string_view text) {
   if (text.size() != kEmptyDateMask.size() || text[2] != '-' || text[5] != '-') return std::nullopt;
@@ -50,6 +42,11 @@ std::string FormatDate(const Date& date) {
   std::snprintf(text, sizeof text, "%02u-%02u-%04d", static_cast<unsigned>(date.month()),
                 static_cast<unsigned>(date.day()), static_cast<int>(date.year()));
   return text;
+}
+
+std::string FormatMonthDay(const Date& date) {
+  const auto number = static_cast<unsigned>(date.month());
+  return std::string(kMonths[number - 1]) + " " + std::to_string(static_cast<unsigned>(date.day()));
 }
 
 int DaysBetween(const Date& start, const Date& end) {

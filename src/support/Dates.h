@@ -9,15 +9,8 @@ namespace corvane {
 
 using Date = std::chrono::year_month_day;
 
-/// A date as the session record keeps it: a count of days in which 0 means "no date" (the day
-/// numbered 0 is 30 December 1899, before the first date that the program accepts).
-using DateSerial = double;
-
 /// What a masked date field shows while it is empty.
 inline constexpr std::string_view kEmptyDateMask = "__-__-____";
-
-DateSerial SerialOf(const Date& date);
-std::optional<Date> DateOf(DateSerial serial);
 
 /// Reads "mm-dd-yyyy". A date is valid when every place of the mask is filled and the calendar has
 /// that day, in the years 1901 to 9999.
@@ -25,6 +18,9 @@ std::optional<Date> ParseDate(std::string_view text);
 
 /// Writes "mm-dd-yyyy".
 std::string FormatDate(const Date& date);
+
+/// Month and day as the day lists show them: "Jan 5".
+std::string FormatMonthDay(const Date& date);
 
 /// Whole days from start to end (end minus start; negative when end is earlier).
 int DaysBetween(const Date& start, const Date& end);

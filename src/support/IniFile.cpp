@@ -3,30 +3,25 @@
 #include <algorithm>
 #include <cctype>
 #include <fstream>
-#include <iterator>
 #include <optional>
 #include <vector>
 
 #include "support/NumberText.h"
+#include "support/WholeFile.h"
 
 namespace corvane {
 
 namespace {
 
 constexpr std::size_t kLongestValue = 254;
-constexpr const char* kLineEnd = "\r\n";
 
 using Lines = std::vector<std::string>;
 
 /// The file's lines without their ends; empty when it cannot be read.
 Lines ReadLines(const std::filesystem::path& file) {
-  std::ifstream input(file, std::ios::binary);
-  Lines lines;
-  for (std::string line; std::getline(input, line);) {
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    lines.push_back(line);
-  }
-  return lines;
+  const auto content = ReadWholeFile(file);
+  const auto* text = std::get_if<std::string>(&content);
+  return text ? LinesOf(*text) : Lines{};
 }
 
 bool SameName(std::string_view one, std::string_view other) {
@@ -105,23 +100,10 @@ void SetKey(Lines& lines, const std::string& section, const std::string& key,
   lines.insert(lines.begin() + place, line);
 }
 
-bool WriteLines(const Lines& lines, const std::filesystem::path& file) {
-  std::filesystem::path beside = file;
-  beside += ".new";
-  std::ofstream output(beside, std::ios::binary);
-  for (const std::string& line : lines) output << line << kLineEnd;
-  output.close();
-  std::error_code failure;
-  if (output) std::filesystem::rename(beside, file, failure);
-  if (output && !failure) return true;
-  std::filesystem::remove(beside, failure);
-  return false;
-}
-
-bool IsWriteProtected(const std::filesystem::path& file) {
+bool IsProtected(const std::filesystem::path& file) {
   std::error_code failure;
   if (!std::filesystem::exists(file, failure)) return false;
-  return !std::ofstream(file, std::ios::binary | std::ios::app);
+  return !std::fstream(file, std::ios::binary | std::ios::in | std::ios::out);
 }
 
 }  // namespace
@@ -137,11 +119,11 @@ std::string ReadIniValue(const std::string& section, const std::string& key,
 
 bool WriteIniValue(const std::string& section, const std::string& key, const std::string& value,
                    const std::filesystem::path& file) {
-  // Renaming a new file over it would get around the protection.
-  if (IsWriteProtected(file)) return false;
+  // Renaming a new file over it would get around the protection, and lose lines that it hides.
+  if (IsProtected(file)) return false;
   Lines lines = ReadLines(file);
   SetKey(lines, section, key, value);
-  return WriteLines(lines, file);
+  return !WriteWholeFile(file, TextOf(lines));
 }
 
 }  // namespace corvane

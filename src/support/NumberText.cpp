@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdio>
 
-#include "formulas/RoundValue.h"
+#include "support/Rounding.h"
 
 namespace corvane {
 

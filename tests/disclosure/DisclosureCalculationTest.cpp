@@ -3,21 +3,26 @@
 #include <gtest/gtest.h>
 
 #include "CaseTable.h"
-#include "account/TierTable.h"
 #include "disclosure/EntrySequence.h"
-#include "disclosure/PeriodArrays.h"
 
 namespace corvane {
 namespace {
 
-std::string MoneyText(const std::string& amount) {
-  return "$" + FormatGrouped2(NumericValue(amount));
+DisclosureCheck CheckOf(const CaseRow& row, AccountKind kind) {
+  const AccountTerms terms = TermsOf(row);
+  DisclosureCheck check;
+  check.setup = {.kind = kind,
+                 .compounding = terms.compounding.unit,
+                 .txtDailyCompounding = {.text = row.Text("n")},
+                 .withdrawal = terms.withdrawal,
+                 .year = terms.year};
+  return check;
 }
 
 /// Makes the next attempt with what a person would type for a row: the fields that the account
 /// has, from columns of their own, of which a list has one part for each entry.
-void Enter(SessionRecord& session, const CaseRow& row, std::size_t part = 0) {
-  const std::pair<const char*, EntryField DisclosureEntry::*> columns[] = {
+void Enter(DisclosureCheck& check, const CaseRow& row, std::size_t part = 0) {
+  const std::pair<const char*, Field DisclosureEntry::*> columns[] = {
       {"apy", &DisclosureEntry::txtDiscAPY},       {"w", &DisclosureEntry::txtWdrwlPeriods},
       {"m", &DisclosureEntry::txtBtwnReqIntWdrwl}, {"month", &DisclosureEntry::txtBeginMonth},
       {"months", &DisclosureEntry::txtBeginMonth}, {"year", &DisclosureEntry::txtBeginYear},
@@ -26,88 +31,76 @@ void Enter(SessionRecord& session, const CaseRow& row, std::size_t part = 0) {
       {"rates", &DisclosureEntry::txtIntRateA},    {"term", &DisclosureEntry::txtTerm},
       {"terms", &DisclosureEntry::txtTerm},
   };
-  DisclosureEntry entry = PresentEntry(session, {});
+  DisclosureEntry entry = PresentEntry(check);
   for (const auto& [column, field] : columns) {
     if (!row.fields.contains(column) || !(entry.*field).enabled) continue;
     const auto parts = SplitAt(row.Text(column), '/');
     (entry.*field).text = parts[parts.size() > 1 ? part : 0];
   }
-  if (entry.txtDailyRateFactor.enabled) entry.txtDailyRateFactor.text = session.DailyRateFactor;
-  if (session.AcctStepped && part == 0) {
+  if (entry.txtDailyRateFactor.enabled) entry.txtDailyRateFactor.text = "1/" + row.Text("factor");
+  if (check.setup.kind == AccountKind::Stepped && part == 0) {
     entry.txtTierPerNum.text = std::to_string(row.List("terms").size());
   }
-  const AttemptOutcome outcome = AttemptCalculation(session, entry);
+  const AttemptOutcome outcome = AttemptCalculation(check, entry);
   ASSERT_FALSE(outcome.refusal.has_value()) << outcome.refusal->text;
 }
 
-/// Gives the account of a row a tier table, its bounds and rates being joined by "/".
-void StoreTiers(SessionRecord& session, const std::string& rateList, const std::string& boundList) {
+/// A tier table, its bounds and rates being joined by "/".
+TierTable Tiers(const std::string& rateList, const std::string& boundList) {
   TierTable table;
-  const auto rates = SplitAt(rateList, '/');
-  const auto bounds = SplitAt(boundList, '/');
-  table.tiers = static_cast<int>(rates.size());
-  for (int tier = 1; tier <= table.tiers; ++tier) {
-    const auto place = static_cast<std::size_t>(tier - 1);
-    table.txtInt.Set(tier, rates[place]);
-    if (tier < table.tiers) table.txt_bne.Set(tier, bounds[place]);
-  }
-  FillLowerBounds(table);
+  for (const auto& rate : SplitAt(rateList, '/')) table.Of(++table.count).rate = rate;
+  int tier = 0;
+  for (const auto& bound : SplitAt(boundList, '/')) table.Of(++tier).notExceeding = bound;
   EXPECT_FALSE(CheckTierTable(table).has_value());
-  StoreTierTable(session, table);
-  session.TotalTiers = session.TierCountSel;
+  return table;
 }
 
 TEST(DisclosureCalculation, RegularAccountsAndTiersByMethodAAgreeWithTheReference) {
   for (const CaseRow& row : ReadCases("regular.csv")) {
     SCOPED_TRACE(row.line);
-    SessionRecord session = AccountOf(row);
-    session.AcctRegular = row.Text("account") == "regular";
-    session.AcctTierA = row.Text("account") == "tierA";
-    if (session.AcctTierA) StoreTiers(session, row.Text("rate") + "/" + row.Text("rate"), "1");
-    SizePeriodArrays(session);
-    for (int entry = 1; entry <= EntryCount(session); ++entry) Enter(session, row);
-    EXPECT_NEAR(session.ComputedInterest, row.Number("interest"), 1e-9);
-    EXPECT_NEAR(session.ComputedApy, row.Number("apy"), 1e-9);
-    EXPECT_EQ(session.TermDays, row.Number("counted"));
-    EXPECT_EQ(session.ApyVerdict, "OK");
-    if (!session.AcctTierA) continue;
-    EXPECT_EQ(session.RptInterest.At(2), MoneyText(row.Text("interest")));
+    const bool tiered = row.Text("account") == "tierA";
+    DisclosureCheck check = CheckOf(row, tiered ? AccountKind::TierA : AccountKind::Regular);
+    if (tiered) check.tiers = Tiers(row.Text("rate") + "/" + row.Text("rate"), "1");
+    for (int entry = 1; entry <= (tiered ? 2 : 1); ++entry) Enter(check, row);
+    ASSERT_EQ(check.result->rows.size(), tiered ? 2u : 1u);
+    for (const ResultRow& shown : check.result->rows) {
+      EXPECT_NEAR(shown.interest, row.Number("interest"), 1e-9);
+      EXPECT_NEAR(*shown.apy, row.Number("apy"), 1e-9);
+      EXPECT_EQ(shown.verdict, Verdict::Ok);
+    }
   }
 }
 
 TEST(DisclosureCalculation, SteppedAccountsAgreeWithTheReference) {
   for (const CaseRow& row : ReadCases("stepped.csv")) {
     SCOPED_TRACE(row.line);
-    SessionRecord session = AccountOf(row);
-    session.AcctStepped = true;
-    SizePeriodArrays(session);
-    const auto interests = SplitAt(row.Text("interests"), '/');
-    for (std::size_t part = 0; part < interests.size(); ++part) Enter(session, row, part);
+    DisclosureCheck check = CheckOf(row, AccountKind::Stepped);
+    const auto interests = row.List("interests");
+    for (std::size_t part = 0; part < interests.size(); ++part) Enter(check, row, part);
+    const auto& rows = check.result->rows;
     for (std::size_t part = 0; part < interests.size(); ++part) {
-      EXPECT_EQ(session.RptInterest.At(static_cast<int>(part) + 1), MoneyText(interests[part]));
+      EXPECT_EQ(FormatFixed2(rows[part].interest), FormatFixed2(interests[part]));
+      EXPECT_EQ(rows[part].verdict.has_value(), part + 1 == interests.size());
     }
-    EXPECT_EQ(FormatFixed2(session.ComputedInterest), row.Text("interest"));
-    EXPECT_NEAR(session.ComputedApy, row.Number("apy"), 1e-9);
-    EXPECT_EQ(session.TermUnits, row.Number("units"));
+    EXPECT_NEAR(check.result->interest, row.Number("interest"), 1e-9);
+    EXPECT_NEAR(*rows.back().apy, row.Number("apy"), 1e-9);
   }
 }
 
 TEST(DisclosureCalculation, TierEndsByMethodBAgreeWithTheReference) {
   for (const CaseRow& row : ReadCases("tiers.csv")) {
     SCOPED_TRACE(row.line);
-    SessionRecord session = AccountOf(row);
-    session.AcctTierB = true;
-    StoreTiers(session, row.Text("rates"), row.Text("bounds"));
-    SizePeriodArrays(session);
-    for (int entered = 0; entered < EntryCount(session); ++entered) Enter(session, row);
+    DisclosureCheck check = CheckOf(row, AccountKind::TierB);
+    check.tiers = Tiers(row.Text("rates"), row.Text("bounds"));
+    for (int entered = 0; entered < EntryCount(check); ++entered) Enter(check, row);
     const int tier = row.Whole("tier");
     const int entry = tier == 1 ? 1 : 2 * tier - (row.Text("end") == "low" ? 2 : 1);
-    EXPECT_EQ(session.RptBalance.At(entry), MoneyText(row.Text("principal")));
-    EXPECT_EQ(session.RptRate.At(entry), row.Text("schedule") + "%");
-    EXPECT_EQ(session.RptInterest.At(entry), MoneyText(row.Text("interest")));
-    EXPECT_EQ(session.RptComputedApy.At(entry), FormatRate(row.Number("apy")) + "%");
-    EXPECT_EQ(session.RptTerm.At(entry), FormatTerm(row.Number("term")));
-    EXPECT_EQ(session.RptVerdict.At(entry), "OK");
+    const ResultRow& shown = check.result->rows.at(static_cast<std::size_t>(entry - 1));
+    EXPECT_NEAR(*shown.balance, row.Number("principal"), 1e-9);
+    EXPECT_EQ(shown.rates.size(), static_cast<std::size_t>(tier));
+    EXPECT_NEAR(shown.interest, row.Number("interest"), 1e-9);
+    EXPECT_NEAR(*shown.apy, row.Number("apy"), 1e-9);
+    EXPECT_EQ(shown.verdict, Verdict::Ok);
   }
 }
 

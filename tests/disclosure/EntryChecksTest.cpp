@@ -3,47 +3,44 @@
 #include <gtest/gtest.h>
 
 #include "CaseTable.h"
-#include "disclosure/EntryLayout.h"
-#include "disclosure/EntryTerm.h"
+#include "disclosure/EntrySequence.h"
 
 namespace corvane {
 namespace {
 
 /// The account that words describe: its type, compounding unit, interval and withdrawals.
-SessionRecord Account(const std::string& description) {
-  const std::pair<const char*, Flag SessionRecord::*> flags[] = {
-      {"regular", &SessionRecord::AcctRegular},   {"stepped", &SessionRecord::AcctStepped},
-      {"tiered-A", &SessionRecord::AcctTierA},    {"tiered-B", &SessionRecord::AcctTierB},
-      {"none", &SessionRecord::CompoundNone},     {"days", &SessionRecord::CompoundDays},
-      {"months", &SessionRecord::CompoundMonths}, {"years", &SessionRecord::CompoundYears},
-      {"leap", &SessionRecord::CountLeapDay},     {"366", &SessionRecord::DaysInYear366},
-      {"by-days", &SessionRecord::ReqWdrwlDays},  {"by-months", &SessionRecord::ReqWdrwlMonths},
+DisclosureCheck Account(const std::string& description) {
+  const std::map<std::string, void (*)(DisclosureSetup&)> words = {
+      {"regular", [](DisclosureSetup& s) { s.kind = AccountKind::Regular; }},
+      {"stepped", [](DisclosureSetup& s) { s.kind = AccountKind::Stepped; }},
+      {"tiered-A", [](DisclosureSetup& s) { s.kind = AccountKind::TierA; }},
+      {"tiered-B", [](DisclosureSetup& s) { s.kind = AccountKind::TierB; }},
+      {"none", [](DisclosureSetup& s) { s.compounding = Unit::None; }},
+      {"days", [](DisclosureSetup& s) { s.compounding = Unit::Days; }},
+      {"months", [](DisclosureSetup& s) { s.compounding = Unit::Months; }},
+      {"years", [](DisclosureSetup& s) { s.compounding = Unit::Years; }},
+      {"leap", [](DisclosureSetup& s) { s.year.countsLeapDay = true; }},
+      {"366", [](DisclosureSetup& s) { s.year.days = 366; }},
+      {"by-days", [](DisclosureSetup& s) { s.withdrawal = Unit::Days; }},
+      {"by-months", [](DisclosureSetup& s) { s.withdrawal = Unit::Months; }},
+      {"30", [](DisclosureSetup& s) { s.txtDailyCompounding.text = "30"; }},
   };
-  SessionRecord session;
-  session.CompoundingDays = 1;
-  for (const std::string& word : SplitAt(description, ' ')) {
-    for (const auto& [name, flag] : flags) session.*flag = session.*flag || word == name;
-    if (word == "30") session.CompoundingDays = 30;
-  }
-  session.DaysInYear365 = !session.DaysInYear366;
-  session.TotalTiers = 2;
-  session.TierAbove.Set(2, 1000);
-  return session;
+  DisclosureCheck check;
+  for (const std::string& word : SplitAt(description, ' ')) words.at(word)(check.setup);
+  check.tiers.count = 2;
+  check.tiers.Of(1).notExceeding = "1000";
+  return check;
 }
 
-/// Types into a field; which fields are enabled then is up to the account, as in the window.
-void Change(const SessionRecord& session, DisclosureEntry& entry, const std::string& name,
+/// Types into a field; which fields are enabled is up to the account, as in the window.
+void Change(const DisclosureCheck& check, DisclosureEntry& entry, const std::string& name,
             const std::string& text) {
-  for (const auto& [known, field] : kEntryFields) {
+  const DisclosureEntry present = PresentEntry(check);
+  for (const auto& [known, field] : DisclosureEntry::Fields()) {
+    (entry.*field).enabled = (present.*field).enabled || name == known;
     if (name == known) (entry.*field).text = text;
   }
-  const EntryGroups groups = GroupsFor(session);
-  entry.txtTierPerNum.enabled = groups.periodNumber;
-  entry.txtBeginMonth.enabled = entry.txtBeginYear.enabled = groups.dateRange;
-  entry.txtWdrwlPeriods.enabled = entry.txtBtwnReqIntWdrwl.enabled = groups.withdrawal;
-  entry.txtDailyRateFactor.enabled = !groups.factorFixed;
-  entry.tStartDate.enabled = entry.tEndDate.enabled =
-      HasCalendar(session) && AsksForCalendar(entry.txtTerm.text);
+  entry.tStartDate.enabled = entry.tEndDate.enabled = TermDatesEnabled(check, entry.txtTerm);
 }
 
 /// "field: message"; empty where nothing is refused.
@@ -142,56 +139,53 @@ const struct {
       {"txtBal=1000.01", ""}}},
 };
 
-TEST(EntryChecks, EachFailsInItsTurnAndNothingElseIsRefused) {
+TEST(DisclosureEntryChecks, EachFailsInItsTurnAndNothingElseIsRefused) {
   for (const auto& [account, steps] : kSequences) {
-    const SessionRecord session = Account(account);
+    const DisclosureCheck check = Account(account);
     DisclosureEntry entry;
     for (const auto& [changes, expected] : steps) {
       const auto words = SplitAt(changes, ' ');
       for (const std::string& word : words) {
         const std::string name = SplitAt(word, '=')[0];
         for (const std::string& text : SplitAt(word.substr(name.size() + 1), '|')) {
-          Change(session, entry, name, text);
+          Change(check, entry, name, text);
           if (word != words.back()) continue;
-          EXPECT_EQ(Said(CheckEntry(session, entry)), expected)
+          EXPECT_EQ(Said(CheckEntry(check, entry)), expected)
               << account << ", " << name << "=" << text;
         }
       }
     }
+    entry = Completed(check, entry);
     EXPECT_NE(entry.txtBeginMonth.text.size(), 1u) << account << ": the month has two places";
   }
 }
 
-TEST(EntryChecks, TheCalendarPassCountsTheTermOrSaysWhatIsWrongWithTheDates) {
+TEST(DisclosureEntryChecks, TheCalendarTermIsCountedOrTheDatesAreRefused) {
   const char* empty = "__-__-____";
+  const char* noStart = "tStartDate: Starting Date is invalid, Please correct";
   const struct {
-    const char *account, *term, *start, *end, *factor, *said, *counted;
+    const char *account, *term, *start, *end, *said, *counted;
   } cases[] = {
-      {"none", "0", empty, empty, "1/365", "tStartDate: Starting Date is invalid, Please correct",
-       "0"},
-      {"none", "", "02-30-2023", empty, "1/365",
-       "tStartDate: Starting Date Date is invalid, Please correct", ""},
-      {"none", "0", "01-01-2023", empty, "1/365",
-       "tEndDate: Ending Date is invalid, Please correct", "0"},
-      {"days", "0", "01-01-2023", "1_-01-2024", "1/365",
+      {"none", "0", empty, empty, noStart, "0"},
+      {"none", "", "02-30-2023", empty, noStart, ""},
+      {"none", "0", "01-01-2023", empty, "tEndDate: Ending Date is invalid, Please correct", "0"},
+      {"days", "0", "01-01-2023", "1_-01-2024",
        "tEndDate: Ending Date Date is invalid, Please correct", "0"},
-      {"days", "0", "01-01-2023", "01-01-2024", "11/365",
-       "txtDailyRateFactor: Please enter the valid Daily Rate factor.", "0"},
-      {"days", "0", "01-01-2024", "01-01-2025", "1/365", "", "365"},
-      {"days leap", "", "01-01-2024", "01-01-2025", "1/365", "", "366"},
-      {"days 30", "0.0", "01-01-2023", "12-27-2023", "1/365", "", "12"},
-      {"days 30", "0", "01-01-2023", "12-28-2023", "1/365", "", "0"},
-      {"months", "9", empty, empty, "1/365", "", "9"},
+      {"days", "0", "01-01-2024", "01-01-2025", "", "365"},
+      {"days leap", "", "01-01-2024", "01-01-2025", "", "366"},
+      {"days 30", "0.0", "01-01-2023", "12-27-2023", "", "12"},
+      {"days 30", "0", "01-01-2023", "12-28-2023", kBadTerm, "0"},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(std::string(c.account) + ", " + c.start + " to " + c.end);
-    DisclosureEntry entry;
+    const DisclosureCheck check = Account(c.account);
+    DisclosureEntry entry = PresentEntry(check);
+    entry.txtDiscAPY.text = entry.txtBal.text = entry.txtIntRateA.text = "5";
     entry.txtTerm.text = c.term;
     entry.tStartDate.text = c.start;
     entry.tEndDate.text = c.end;
-    entry.txtDailyRateFactor.text = c.factor;
-    EXPECT_EQ(Said(CheckCalendarTerm(Account(c.account), entry)), c.said);
-    EXPECT_EQ(entry.txtTerm.text, c.counted);
+    EXPECT_EQ(Said(CheckEntry(check, entry)), c.said);
+    EXPECT_EQ(Completed(check, entry).txtTerm.text, c.counted);
   }
 }
 

@@ -1,14 +1,16 @@
 #include "formulas/InterestByDay.h"
 
 #include "CaseTable.h"
-#include "formulas/DayRate.h"
+#include "formulas/DayInterest.h"
 
 namespace corvane {
 namespace {
 
-const std::vector<BalanceTier> kTiers = {{0, 1.05}, {1000, 2.5}, {2500, 4.1265}, {15000, 5.75}};
+using enum AccountKind;
 
-StatementAccount AccountOfKind(RateKind kind) {
+const std::vector<Tier> kTiers = {{0, 1.05}, {1000, 2.5}, {2500, 4.1265}, {15000, 5.75}};
+
+StatementAccount AccountOfKind(AccountKind kind) {
   StatementAccount account;
   account.kind = kind;
   account.rate = 3.65;
@@ -17,10 +19,8 @@ StatementAccount AccountOfKind(RateKind kind) {
 }
 
 StatementAccount AccountOfRow(const CaseRow& row) {
-  static const std::map<std::string, RateKind> kinds = {{"regular", RateKind::Regular},
-                                                        {"stepped", RateKind::Stepped},
-                                                        {"tierA", RateKind::TierA},
-                                                        {"tierB", RateKind::TierB}};
+  static const std::map<std::string, AccountKind> kinds = {
+      {"regular", Regular}, {"stepped", Stepped}, {"tierA", TierA}, {"tierB", TierB}};
   StatementAccount account = AccountOfKind(kinds.at(row.Text("kind")));
   account.method = row.Text("method") == "adb" ? BalanceMethod::AverageDailyBalance
                                                : BalanceMethod::DailyBalance;
@@ -28,7 +28,7 @@ StatementAccount AccountOfRow(const CaseRow& row) {
   if (minimums == "adb" || minimums == "both") account.minimumAdb = 1000;
   if (minimums == "daily" || minimums == "both") account.minimumDailyBalance = 500;
   account.compoundingDays = row.Whole("every");
-  account.daysInYear = row.Text("pattern") == "varied" ? 365 : 366;
+  account.factorDays = row.Text("pattern") == "varied" ? 365 : 366;
   return account;
 }
 
@@ -50,7 +50,7 @@ TEST(InterestByDay, EveryKindOfAccountAgreesWithTheReference) {
 }
 
 TEST(InterestByDay, CompoundingEveryThirtyDaysAddsTheTotalOnDays31And61Only) {
-  StatementAccount account = AccountOfKind(RateKind::Regular);
+  StatementAccount account = AccountOfKind(Regular);
   account.compoundingDays = 30;
   const auto ofDay = InterestByDay(account, std::vector<double>(62, 1000), {}).interest.ofDay;
   EXPECT_NEAR(ofDay[29], 0.1, 1e-12);
@@ -60,7 +60,7 @@ TEST(InterestByDay, CompoundingEveryThirtyDaysAddsTheTotalOnDays31And61Only) {
 }
 
 TEST(InterestByDay, ADayBelowTheMinimumOrNegativeEarnsNothingWhateverTheAccount) {
-  for (RateKind kind : {RateKind::Regular, RateKind::Stepped, RateKind::TierA, RateKind::TierB}) {
+  for (AccountKind kind : {Regular, Stepped, TierA, TierB}) {
     StatementAccount account = AccountOfKind(kind);
     EXPECT_EQ(InterestByDay(account, {-900}, {5}).interest.total, 0) << "a debt costs nothing";
     account.minimumDailyBalance = 500;
@@ -74,7 +74,7 @@ TEST(InterestByDay, ABalanceEqualToABoundBelongsToTheLowerTier) {
   const std::pair<double, double> rates[] = {
       {-5, 1.05}, {1000, 1.05}, {1000.01, 2.5}, {15000, 4.1265}, {15000.01, 5.75}};
   for (const auto& [balance, rate] : rates) {
-    EXPECT_EQ(RateOfDay(AccountOfKind(RateKind::TierA), balance, 0), rate) << balance;
+    EXPECT_EQ(RateOfDay(AccountOfKind(TierA), balance, 0), rate) << balance;
   }
 }
 

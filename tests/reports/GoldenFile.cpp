@@ -2,44 +2,38 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
 #include "TemporaryFolder.h"
+#include "support/WholeFile.h"
 
 namespace corvane {
 
 namespace {
 
-void ExpectFilled(const std::string& templatePath, std::string_view expectedName,
+const std::filesystem::path kGolden = CORVANE_GOLDEN_FOLDER;
+const std::filesystem::path kShipped = CORVANE_TEMPLATE_FOLDER;
+
+void ExpectFilled(const std::filesystem::path& templateFile, std::string_view expectedName,
                   const ReportContent& content) {
   TemporaryFolder folder;
-  const std::string outputPath = FileIn(Utf8Of(folder.Path()), expectedName);
-  const ReportBuild build = BuildReportFile(templatePath, outputPath, content);
-  ASSERT_FALSE(build.error.has_value()) << MessageFor(*build.error).text;
-  EXPECT_TRUE(build.unknownTags.empty()) << build.unknownTags.front();
-  const std::string expected = BytesOf(FileIn(CORVANE_GOLDEN_FOLDER, expectedName));
-  ASSERT_FALSE(expected.empty()) << "no expected report " << expectedName;
-  const std::string computed = BytesOf(outputPath);
-  EXPECT_EQ(computed, expected) << "computed: " << outputPath;
+  const auto output = folder.Path() / expectedName;
+  const WrittenReport report = WriteReport(templateFile, output, content);
+  ASSERT_TRUE(report.messages.empty()) << report.messages.front().text;
+  const auto expected = std::get<std::string>(ReadWholeFile(kGolden / expectedName));
+  const auto computed = std::get<std::string>(ReadWholeFile(output));
+  EXPECT_EQ(computed, expected) << "computed: " << output;
   if (computed != expected) folder.Keep();
 }
 
 }  // namespace
 
-std::string BytesOf(const std::string& path) {
-  std::ifstream in(PathOf(path), std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
-
 void ExpectReport(std::string_view templateName, std::string_view expectedName,
                   const ReportContent& content) {
-  ExpectFilled(FileIn(CORVANE_GOLDEN_FOLDER, templateName), expectedName, content);
+  ExpectFilled(kGolden / templateName, expectedName, content);
 }
 
 void ExpectShippedReport(const ReportNames& report, std::string_view expectedName,
                          const ReportContent& content) {
-  ExpectFilled(FileIn(CORVANE_TEMPLATE_FOLDER, report.templateName), expectedName, content);
+  ExpectFilled(kShipped / report.templateName, expectedName, content);
 }
 
 }  // namespace corvane

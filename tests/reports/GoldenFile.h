@@ -1,13 +1,10 @@
 #pragma once
 
-#include <string>
+#include <string_view>
 
 #include "reports/ReportFile.h"
 
 namespace corvane {
-
-/// The bytes of a file; empty where there is none.
-std::string BytesOf(const std::string& path);
 
 /// Fills a template of tests/reports/golden, or the one that the program ships for a report, and
 /// fails unless the file that is written equals the expected one in that folder, byte for byte.

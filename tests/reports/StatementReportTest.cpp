@@ -2,127 +2,105 @@
 
 #include <gtest/gtest.h>
 
-#include "account/SessionRecord.h"
 #include "reports/GoldenFile.h"
 #include "reports/InterestReport.h"
-#include "support/Clock.h"
 
 namespace corvane {
 namespace {
 
+const AccountHeader kHeader = {"First & Farmers' Bank", "NOW <Account>", "J. M\xC3\xBCller",
+                               "\"123\""};
+const Date kToday = *ParseDate("03-07-2024");
+
 /// Regulation DD's statement: $5.25 on an average of $1,000 over 30 days is an APY earned of 6.58.
-class StatementReportFile : public testing::Test {
- protected:
-  void SetUp() override {
-    SetToday(ParseDate("03-07-2024"));
-    session_.InstitutionName = "First & Farmers' Bank";
-    session_.AccountDescription = "NOW <Account>";
-    session_.AccountHolder = "J. M\xC3\xBCller";
-    session_.AccountNumber = "\"123\"";
-    session_.AcctRegular = session_.CompoundDays = session_.UseAdb = true;
-    session_.CompoundingDays = 1;
-    session_.DaysInYear = 365;
-    session_.ComputedApy = 6.58;
-    session_.ApyVerdict = "OK";
-    entry_ = {.txtDCompounding = " 1",
-              .txtMinADB = "0",
-              .txtMinDBal = " 1500.00 ",
-              .txtIntRate = " 6.3875 ",
-              .txtIntAmt = "5.25",
-              .txtDClApy = " 6.58",
-              .txtLedgerdays = " 30 ",
-              .txtADBLedgerBalance = "1000",
-              .txtColDays = "0",
-              .txtADBCollectedBalance = "0.00"};
-  }
-  void TearDown() override { SetToday(std::nullopt); }
-
-  /// Without compounding, by the daily balance, in a leap year.
-  void BecomeTierB() {
-    session_.AcctRegular = session_.CompoundDays = session_.UseAdb = false;
-    session_.AcctTierB = session_.CompoundNone = true;
-    session_.CompoundingDays = 0;
-    session_.DaysInYear = 366;
-  }
-
-  SessionRecord session_;
-  StatementReportEntry entry_;
-};
-
-TEST_F(StatementReportFile, RegularByTheLedger) {
-  ExpectReport("statement_template.txt", "statement_regular.html",
-               StatementReport(session_, entry_));
-  ExpectShippedReport(kStatementReport, "statement_shipped.html",
-                      StatementReport(session_, entry_));
+StatementCheck RegularCheck() {
+  StatementCheck check;
+  check.setup.compounding = Unit::Days;
+  check.setup.txtDCompounding.text = " 1";
+  check.entry = {.txtMinADB = {"0"},
+                 .txtMinDBal = {" 1500.00 "},
+                 .txtDClApy = {" 6.58"},
+                 .txtIntRate = {" 6.3875 "},
+                 .txtDRFactor = {" 1/365"},
+                 .txtLedgerdays = {" 30 "},
+                 .txtADBLedgerBalance = {"1000"},
+                 .txtColDays = {"0"},
+                 .txtADBCollectedBalance = {"0.00"},
+                 .txtIntAmt = {"5.25"},
+                 .method = BalanceMethod::AverageDailyBalance};
+  check.result = {5.25, 6.58, Verdict::Ok};
+  return check;
 }
 
-TEST_F(StatementReportFile, TieredByTheCollectedBalance) {
-  BecomeTierB();
-  session_.ApyVerdict = "APY VIOLATION";
-  entry_.optFormulaYes = true;
-  entry_.txtDCompounding = "";
-  entry_.txtDClApy = "6.64";
-  entry_.txtLedgerdays = "-3";
-  entry_.txtADBLedgerBalance = "";
-  entry_.txtColDays = "31";
-  entry_.txtADBCollectedBalance = "-12.5";
+/// By the collected balance of each day, without compounding, in a leap year.
+StatementCheck TieredCheck() {
+  StatementCheck check = RegularCheck();
+  check.setup = {.kind = AccountKind::TierB, .year = {366, true}, .additionalFormula = true};
+  check.entry.method = BalanceMethod::DailyBalance;
+  check.entry.txtDRFactor.text = "";
+  check.entry.txtDClApy.text = "6.64";
+  check.entry.txtLedgerdays.text = "-3";
+  check.entry.txtADBLedgerBalance.text = "";
+  check.entry.txtColDays.text = "31";
+  check.entry.txtADBCollectedBalance.text = "-12.5";
+  check.result->verdict = Verdict::Violation;
+  return check;
+}
+
+TEST(StatementReport, RegularByTheLedgerAndTieredByTheCollectedBalance) {
+  const ReportContent regular = StatementReport(kHeader, RegularCheck(), kToday);
+  ExpectReport("statement_template.txt", "statement_regular.html", regular);
+  ExpectShippedReport(kStatementReport, "statement_shipped.html", regular);
   ExpectReport("statement_template.txt", "statement_tiered.html",
-               StatementReport(session_, entry_));
+               StatementReport(kHeader, TieredCheck(), kToday));
 }
 
-TEST_F(StatementReportFile, EveryAccountTypeButRegularHasAVariableRate) {
-  session_.AcctRegular = false;
-  for (const auto& [type, heading] : {std::pair{&SessionRecord::AcctStepped, "STEPPED RATE"},
-                                      std::pair{&SessionRecord::AcctTierA, "TIERING Method A"}}) {
-    SessionRecord session = session_;
-    session.*type = true;
-    const auto text = BuildReport({"^Rpt_Type^", "^datarow^"}, StatementReport(session, {})).text;
-    EXPECT_EQ(text.substr(0, text.find("</TD>")),
-              heading + std::string("<TR align=center><TD>variable"));
+TEST(StatementReport, EveryAccountTypeButRegularHasAVariableRate) {
+  for (const auto& [kind, heading] : {std::pair{AccountKind::Stepped, "STEPPED RATE"},
+                                      std::pair{AccountKind::TierA, "TIERING Method A"}}) {
+    StatementCheck check = RegularCheck();
+    check.setup.kind = kind;
+    const Rows lines =
+        FillTemplate({"^Rpt_Type^", "^datarow^"}, StatementReport(kHeader, check, kToday)).lines;
+    EXPECT_EQ(lines.at(0), heading);
+    EXPECT_TRUE(lines.at(1).starts_with("<TR align=center><TD>variable</TD><TD>1</TD>"));
   }
 }
 
-TEST_F(StatementReportFile, InterestByDayOfTheCollectedBalance) {
-  BecomeTierB();
-  session_.StatementDays = 4;
-  session_.PeriodStart = SerialOf(*ParseDate("02-28-2024"));
-  session_.CollectedDayBalances.Resize(1, 4);
-  session_.CollectedDayRates.Resize(1, 4);
-  const double days[][2] = {{1000.5, 4}, {0, 0}, {-5, 4.1265}, {1234567.89, 4.5}};
-  int day = 0;
-  for (const auto& [balance, rate] : days) {
-    session_.CollectedDayBalances.Set(++day, balance);
-    session_.CollectedDayRates.Set(day, rate);
+TEST(StatementReport, TheDaysOfTheYearAreThoseOfTheFactor) {
+  StatementCheck check = TieredCheck();
+  for (const auto& [factor, days] : {std::pair{"1/365", "365"}, std::pair{"?", "366"}}) {
+    check.entry.txtDRFactor.text = factor;
+    EXPECT_EQ(FillTemplate({"^drf^"}, StatementReport(kHeader, check, kToday)).lines, Rows{days});
   }
+}
+
+TEST(InterestReport, EveryDayOfAColumn) {
+  DailyBalances daily;
+  daily.column = BalanceColumn::Collected;
+  daily.start = *ParseDate("02-28-2024");
+  daily.days = {{1000.5, 4}, {}, {-5, 4.1265}, {1234567.89, 4.5}};
   ExpectReport("interest_template.txt", "interest_collected.html",
-               InterestReport(session_, {true}));
+               InterestReport(kHeader, TieredCheck(), daily, kToday));
+  daily.column = BalanceColumn::Ledger;
+  daily.start = *ParseDate("01-15-2024");
+  daily.days.clear();
+  for (int day = 1; day <= 31; ++day) daily.days.push_back({1000 + day, day <= 20 ? 5.25 : 5.5});
+  ExpectShippedReport(kInterestReport, "interest_shipped.html",
+                      InterestReport(kHeader, RegularCheck(), daily, kToday));
 }
 
-TEST_F(StatementReportFile, InterestByDayOfTheLedgerOverAMonth) {
-  session_.LedgerBasis = true;
-  session_.StatementDays = 31;
-  session_.PeriodStart = SerialOf(*ParseDate("01-15-2024"));
-  session_.LedgerDayBalances.Resize(1, 31);
-  session_.LedgerDayRates.Resize(1, 31);
-  for (int day = 1; day <= 31; ++day) {
-    session_.LedgerDayBalances.Set(day, 1000 + day);
-    session_.LedgerDayRates.Set(day, day <= 20 ? 5.25 : 5.5);
-  }
-  ExpectShippedReport(kInterestReport, "interest_shipped.html", InterestReport(session_, {}));
-}
-
-TEST(InterestReportColumns, EveryDayStandsOnceInThreeColumns) {
+TEST(InterestReport, EveryDayStandsOnceInThreeColumns) {
   const struct {
-    int days, firstEnds, secondEnds;
+    std::size_t days, firstEnds, secondEnds;
   } cases[] = {{0, 0, 0}, {1, 1, 1}, {2, 1, 2}, {31, 11, 21}, {32, 11, 22}, {96, 32, 64}};
   for (const auto& c : cases) {
     const auto columns = SplitDays(c.days);
-    EXPECT_EQ(columns[0].first, 1) << c.days;
-    EXPECT_EQ(columns[0].last, c.firstEnds) << c.days;
-    EXPECT_EQ(columns[1].first, c.firstEnds + 1) << c.days;
-    EXPECT_EQ(columns[1].last, c.secondEnds) << c.days;
-    EXPECT_EQ(columns[2].first, c.secondEnds + 1) << c.days;
-    EXPECT_EQ(columns[2].last, c.days) << c.days;
+    const std::size_t ends[] = {0, c.firstEnds, c.secondEnds, c.days};
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      EXPECT_EQ(columns[i].first, ends[i]) << c.days;
+      EXPECT_EQ(columns[i].end, ends[i + 1]) << c.days;
+    }
   }
 }
 

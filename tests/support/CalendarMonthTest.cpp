@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/CenterPosition.h"
-
 namespace corvane {
 namespace {
 
@@ -26,19 +24,6 @@ TEST(CalendarMonth, EveryDayStandsInItsCellAndNothingElseDoes) {
       EXPECT_EQ(CellOf(*day).row * 7 + CellOf(*day).column, cell) << c.month;
     }
     for (int beside : {-1, 7}) EXPECT_FALSE(DayInCell(month, {beside, 2})) << c.month;
-  }
-}
-
-TEST(FormCenter, MeasuresFromTheScreensCornerUnlessTheWindowDoesNotFit) {
-  const Extent area{1024, 738};
-  const struct {
-    Extent window;
-    int left, top;
-  } cases[] = {{{520, 440}, 252, 149}, {area, 0, 0}, {{1025, 400}, 40, 30}, {{600, 739}, 40, 30}};
-  for (const auto& c : cases) {
-    const Position place = CenterPosition(area, {40, 30}, c.window);
-    EXPECT_EQ(place.left, c.left) << c.window.width << " x " << c.window.height;
-    EXPECT_EQ(place.top, c.top) << c.window.width << " x " << c.window.height;
   }
 }
 

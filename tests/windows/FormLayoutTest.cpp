@@ -68,8 +68,8 @@ class FormLayout : public WindowTest {
 };
 
 TEST_F(FormLayout, EveryWindowCanBeReadAndUsedByKeyboardOnASmallScreen) {
-  session.AcctStepped = session.CompoundDays = session.ReqWdrwlMonths = true;
-  session.DaysInYear365 = true;
+  session.disclosure.setup.kind = AccountKind::Stepped;
+  session.disclosure.setup.withdrawal = Unit::Months;
   Examine<DisclaimerWindow>();
   Examine<MainMenu>();
   Examine<AboutWindow>();

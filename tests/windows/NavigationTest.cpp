@@ -1,4 +1,5 @@
 #include "platform/ProgramFolder.h"
+#include "support/Paths.h"
 #include "windows/WindowTest.h"
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
@@ -22,13 +23,12 @@ TEST_F(Navigation, TheDisclaimerLeadsToTheMainMenuAndTheFrameEndsTheProgram) {
   Click("cmdOK");
   InFront<MainMenu>();
   EXPECT_FALSE(IsVisible<DisclaimerWindow>());
-  EXPECT_EQ(session.RoundingDigits, 15);
-  EXPECT_TRUE(QDir(QString::fromStdString(session.AppDataFolder)).exists());
+  EXPECT_TRUE(std::filesystem::is_directory(session.dataFolder));
   EXPECT_FALSE(windows.HasEnded());
-  session.InstitutionName = "First Bank";
+  session.header.institution = "First Bank";
   CloseByFrame();
   EXPECT_TRUE(windows.HasEnded());
-  EXPECT_EQ(session.InstitutionName, "") << "the orderly way out clears the identification";
+  EXPECT_EQ(session.header.institution, "") << "the orderly way out clears the identification";
 }
 
 TEST_F(Navigation, TheFrameOfTheFirstWindowEndsTheProgram) {
@@ -39,17 +39,18 @@ TEST_F(Navigation, TheFrameOfTheFirstWindowEndsTheProgram) {
 
 TEST_F(Navigation, EscapeOnTheMainMenuEndsTheProcessAtOnce) {
   Open<MainMenu>();
-  session.InstitutionName = "First Bank";
+  session.header.institution = "First Bank";
   Key(Qt::Key_Tab);
   EXPECT_FALSE(windows.HasEnded());
   Key(Qt::Key_Escape);
   EXPECT_TRUE(windows.HasEnded());
-  EXPECT_EQ(session.InstitutionName, "First Bank") << "the orderly way out would have cleared it";
+  EXPECT_EQ(session.header.institution, "First Bank")
+      << "the orderly way out would have cleared it";
 }
 
 TEST_F(Navigation, ExitOfTheDisclaimerEndsTheProcessWhateverElseIsOpen) {
   Open<DisclaimerWindow>();
-  session.InstitutionName = "First Bank";
+  session.header.institution = "First Bank";
   Click("cmdAbout");
   InFront<AboutWindow>();
   QTimer::singleShot(0, [this] {
@@ -60,7 +61,7 @@ TEST_F(Navigation, ExitOfTheDisclaimerEndsTheProcessWhateverElseIsOpen) {
   QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(1); });
   watchdog.start(5000);
   EXPECT_EQ(QApplication::exec(), 0) << "the process goes on";
-  EXPECT_EQ(session.InstitutionName, "First Bank") << "no window was closed as by its frame";
+  EXPECT_EQ(session.header.institution, "First Bank") << "no window was closed as by its frame";
 }
 
 TEST_F(Navigation, AboutIsModalOverTheMainMenuAlsoWhenItWasLeftOpenAndItsFrameClosesOnlyIt) {

@@ -10,6 +10,7 @@ int main(int argc, char** argv) {
   const QTemporaryDir home;
   qputenv("HOME", home.path().toUtf8());
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+  qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
   corvane::PrepareWebView();
   QApplication application(argc, argv);
   QApplication::setApplicationVersion(CORVANE_VERSION);

@@ -7,7 +7,6 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include "account/SessionRecord.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -89,7 +88,7 @@ class WindowTest : public ::testing::Test {
   std::string Focus() const;
   bool IsChosen(const QString& option) const { return Get<QRadioButton>(option)->isChecked(); }
 
-  SessionRecord session;
+  Session session;
   WindowRegistry windows{session};
 
  private:

@@ -2,34 +2,22 @@
 
 #include <QtWidgets>
 
-#include "account/AccountHeader.h"
-#include "account/SessionRecord.h"
 #include "disclosure/DisclosureCalculation.h"
-#include "disclosure/DisclosureSetup.h"
 #include "disclosure/EntryChecks.h"
 #include "disclosure/EntryLayout.h"
 #include "disclosure/EntrySequence.h"
 #include "disclosure/EntryTerm.h"
-#include "disclosure/PeriodArrays.h"
-#include "disclosure/PeriodStore.h"
-#include "platform/MessageBox.h"
 #include "platform/Pictures.h"
 #include "support/Clock.h"
-#include "support/NumberText.h"
 #include "ui_DisclosureEntryWindow.h"
-#include "windows/disclosure/DisclosureResultsWindow.h"
-#include "windows/disclosure/DisclosureSetupWindow.h"
-#include "windows/disclosure/TierTableWindow.h"
 #include "windows/frame/CalendarPopup.h"
 #include "windows/frame/WindowRegistry.h"
-#include "windows/start/MainMenu.h"
 
 namespace corvane {
 
 namespace {
 
 constexpr int kHelpContext = 3;
-constexpr int kStartDate = 0;
 
 /// Controls by which a person leaves the window: nothing is demanded of a field on the way out.
 bool LeavesWindow(const QString& control) {
@@ -38,16 +26,14 @@ bool LeavesWindow(const QString& control) {
   return leaving.contains(control);
 }
 
-bool BelongsToTermDates(const QString& control) {
-  return control == "tStartDate" || control == "tEndDate" || control.startsWith("ImgCalendar");
-}
-
 }  // namespace
 
-DisclosureEntryWindow::DisclosureEntryWindow(WindowRegistry& windows)
-    : Form(windows, Role::Main), ui_(std::make_unique<Ui::DisclosureEntryWindow>()) {
+DisclosureEntryWindow::DisclosureEntryWindow(WindowRegistry& registry)
+    : Form(registry, Role::Main), ui_(std::make_unique<Ui::DisclosureEntryWindow>()) {
   ui_->setupUi(this);
   NameArrayElements();
+  binding_ =
+      std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] { EnableCalendars(); });
   BindFields();
   BindButtons();
 }
@@ -55,7 +41,9 @@ DisclosureEntryWindow::DisclosureEntryWindow(WindowRegistry& windows)
 DisclosureEntryWindow::~DisclosureEntryWindow() = default;
 
 void DisclosureEntryWindow::BindFields() {
-  for (const EntryFieldName& known : kEntryFields) SelectTextOnFocus(Field(known.name));
+  for (const auto& name : DisclosureEntry::Fields()) {
+    SelectTextOnFocus(findChild<QLineEdit*>(name.control));
+  }
   BindNumeric(ui_->txtBal, {.repairMinus = true, .decimals = 2, .kind = "bal"});
   BindNumeric(ui_->txtIntRateA, {.repairMinus = true, .decimals = 4, .kind = "int"});
   BindNumeric(ui_->txtDiscAPY, {.repairMinus = true, .decimals = 2, .kind = "apy"});
@@ -66,30 +54,32 @@ void DisclosureEntryWindow::BindFields() {
   BindNumeric(ui_->txtTerm, {.enterMovesOn = true});
   BindNumeric(ui_->txtTierPerNum, {.digitsOnly = true});
   RewriteOnLeaving(ui_->txtBal);
-  OnLostFocus(ui_->txtBal, [this](const QString&) { txtBal_LostFocus(); });
-  OnChange(ui_->txtTerm, [this] { txtTerm_Change(); });
-  connect(ui_->txtTerm, &QLineEdit::textEdited, this, [this] { Session().TermEntryFlag = true; });
+  connect(ui_->txtTerm, &QLineEdit::textChanged, this, [this] { EnableCalendars(); });
+  connect(ui_->txtTerm, &QLineEdit::textEdited, this, [this] { termEdited_ = true; });
   OnLostFocus(ui_->txtTerm, [this](const QString& next) { txtTerm_LostFocus(next); });
   OnLostFocus(ui_->txtTierPerNum, [this](const QString& next) { txtTierPerNum_LostFocus(next); });
 }
 
 void DisclosureEntryWindow::BindButtons() {
+  termDates_ = {ui_->tStartDate, ui_->tEndDate};
   for (int index : {0, 1}) {
-    imgCalendar_[index] = findChild<QToolButton*>(QString("ImgCalendar(%1)").arg(index));
-    imgCalendar_[index]->setIcon(CalendarIcon());
-    OnClick(imgCalendar_[index], [this, index] { ImgCalendar_Click(index); });
+    auto* calendar = findChild<QToolButton*>(QString("ImgCalendar(%1)").arg(index));
+    calendar->setIcon(CalendarIcon());
+    OnClick(calendar, [this, index] { ImgCalendar_Click(index); });
+    termDates_.push_back(calendar);
   }
-  for (QWidget* control :
-       {static_cast<QWidget*>(ui_->tStartDate), static_cast<QWidget*>(ui_->tEndDate),
-        static_cast<QWidget*>(imgCalendar_[0]), static_cast<QWidget*>(imgCalendar_[1])}) {
-    OnLostFocus(control, [this](const QString& next) { TermDates_LostFocus(next); });
+  for (QWidget* control : termDates_) {
+    OnLostFocus(control, [this](const QString& next) {
+      const auto isNext = [&next](QWidget* part) { return part->objectName() == next; };
+      if (std::none_of(termDates_.begin(), termDates_.end(), isNext)) WriteCountedTerm();
+    });
   }
   OnClick(ui_->cmdSetProperties, [this] { cmdSetProperties_Click(); });
   OnClick(ui_->cmdCalculateResult, [this] { Attempt(); });
   OnClick(ui_->cmdNext, [this] { Attempt(); });
   OnClick(ui_->cmdBack, [this] { cmdBack_Click(); });
-  OnClick(ui_->cmdAcctInfo, [this] { cmdAcctInfo_Click(); });
-  OnClick(ui_->cmdExit, [this] { cmdExit_Click(); });
+  OnClick(ui_->cmdAcctInfo, [this] { routes().NewDisclosure(); });
+  OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdAcctInfo->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
   BindCommonMenus(kHelpContext);
@@ -106,52 +96,19 @@ void DisclosureEntryWindow::Form_Activate() {
   }
 }
 
-QLineEdit* DisclosureEntryWindow::Field(const char* name) const {
-  return findChild<QLineEdit*>(name);
-}
-
-DisclosureEntry DisclosureEntryWindow::ReadFields() const {
-  DisclosureEntry entry;
-  for (const EntryFieldName& known : kEntryFields) {
-    const QLineEdit* field = Field(known.name);
-    entry.*known.field = {FieldText(field), field->isEnabled()};
-  }
-  return entry;
-}
-
-void DisclosureEntryWindow::WriteFields(const DisclosureEntry& entry) {
-  for (const EntryFieldName& known : kEntryFields) {
-    QLineEdit* field = Field(known.name);
-    const EntryField& wanted = entry.*known.field;
-    if (FieldText(field) != wanted.text) SetFieldText(field, wanted.text);
-    field->setEnabled(wanted.enabled);
-  }
-  EnableTermDates();
-}
-
 void DisclosureEntryWindow::cmdSetProperties_Click() {
-  Session().ComputedInterest = 0;
-  Session().TierInterestTotal = 0;
-  NumberCurrentEntry(Session());
+  const DisclosureCheck& check = session().disclosure;
+  entry_ = PresentEntry(check);
   ShowCaptions();
   ShowGroups();
-  ShowEntry();
-}
-
-void DisclosureEntryWindow::ShowEntry() {
-  WriteFields(PresentEntry(Session(), ReadFields()));
-  const bool calculates = !IsTiered(Session()) && IsLastEntry(Session());
+  binding_->Show();
+  const bool calculates = !check.setup.IsTiered() && IsLastEntry(check);
   ui_->cmdCalculateResult->setVisible(calculates);
   ui_->cmdNext->setVisible(!calculates);
 }
 
-void DisclosureEntryWindow::Load_Back_Data(int period) {
-  Session().PeriodCount = static_cast<std::int16_t>(period - 1);
-  cmdSetProperties_Click();
-}
-
 void DisclosureEntryWindow::ShowCaptions() {
-  const EntryCaptions captions = CaptionsFor(Session());
+  const EntryCaptions captions = CaptionsFor(session().disclosure);
   const std::pair<QLabel*, const std::string&> labels[] = {
       {ui_->lblAcctType, captions.lblAcctType},
       {ui_->lblMethod, captions.lblMethod},
@@ -168,144 +125,84 @@ void DisclosureEntryWindow::ShowCaptions() {
 }
 
 void DisclosureEntryWindow::ShowGroups() {
-  const EntryGroups groups = GroupsFor(Session());
+  const DisclosureSetup& setup = session().disclosure.setup;
+  const EntryGroups groups = GroupsFor(setup);
   ui_->frmPeriodNumber->setVisible(groups.periodNumber);
   ui_->frmDateRange->setVisible(groups.dateRange);
   ui_->frmTermDates->setVisible(groups.termDates);
   ui_->frmIntWithDrawal->setVisible(groups.withdrawal);
-  ui_->lblMethod->setVisible(IsTiered(Session()));
+  ui_->lblMethod->setVisible(setup.IsTiered());
   ui_->lblPeriodNumber->setVisible(groups.periodNumber);
-  ui_->lblHighLowEnd->setVisible(Session().AcctTierB);
+  ui_->lblHighLowEnd->setVisible(setup.kind == AccountKind::TierB);
 }
 
-void DisclosureEntryWindow::EnableTermDates() {
-  const bool enabled = TermDatesEnabled(Session(), FieldText(ui_->txtTerm));
-  for (QWidget* control :
-       {static_cast<QWidget*>(ui_->tStartDate), static_cast<QWidget*>(ui_->tEndDate),
-        static_cast<QWidget*>(imgCalendar_[0]), static_cast<QWidget*>(imgCalendar_[1])}) {
-    control->setEnabled(enabled);
-  }
-}
-
-void DisclosureEntryWindow::EmptyTermDates() {
-  ui_->tStartDate->clear();
-  ui_->tEndDate->clear();
-}
-
-void DisclosureEntryWindow::txtBal_LostFocus() {
-  Session().Balance = NumericValue(FieldText(ui_->txtBal));
-}
-
-void DisclosureEntryWindow::txtTerm_Change() {
-  EnableTermDates();
+void DisclosureEntryWindow::EnableCalendars() {
+  const bool enabled = TermDatesEnabled(session().disclosure, entry_.txtTerm);
+  entry_.tStartDate.enabled = entry_.tEndDate.enabled = enabled;
+  for (QWidget* control : termDates_) control->setEnabled(enabled);
 }
 
 void DisclosureEntryWindow::txtTerm_LostFocus(const QString& next) {
-  const std::string term = FieldText(ui_->txtTerm);
-  const bool edited = Session().TermEntryFlag;
-  Session().TermEntryFlag = false;
-  const bool isZero = !Trim(term).empty() && AsksForCalendar(term);
-  if (isZero && !HasCalendar(Session()) && !LeavesWindow(next)) {
-    Tell({"For Interest Compounding Months or Years, please enter valid term", ""});
+  const bool edited = std::exchange(termEdited_, false);
+  const Field& term = entry_.txtTerm;
+  const bool isZero = !term.IsEmpty() && AsksForCalendar(term);
+  if (isZero && !HasCalendar(session().disclosure.setup) && !LeavesWindow(next)) {
+    Tell({"For Interest Compounding Months or Years, please enter valid term"});
     HoldFocus(ui_->txtTerm);
   } else if (edited && !AsksForCalendar(term)) {
-    EmptyTermDates();
+    ui_->tStartDate->clear();
+    ui_->tEndDate->clear();
   }
 }
 
 void DisclosureEntryWindow::txtTierPerNum_LostFocus(const QString& next) {
-  const auto refusal = CheckPeriodNumber(Session(), FieldText(ui_->txtTierPerNum));
+  const auto refusal = CheckPeriodNumber(entry_.txtTierPerNum);
   if (!refusal || LeavesWindow(next)) return;
   ui_->txtTierPerNum->clear();
-  Tell({refusal->text, ""});
+  Tell({refusal->text});
   HoldFocus(ui_->txtTierPerNum);
 }
 
-void DisclosureEntryWindow::TermDates_LostFocus(const QString& next) {
-  if (!BelongsToTermDates(next)) WriteCountedTerm();
-}
-
 void DisclosureEntryWindow::WriteCountedTerm() {
-  const DisclosureEntry entry = ReadFields();
-  if (!TermOf(Session(), entry).fromCalendar) return;
-  if (const auto term = CountedTermText(Session(), entry)) SetFieldText(ui_->txtTerm, *term);
+  const DisclosureSetup& setup = session().disclosure.setup;
+  if (!TermOf(setup, entry_).fromCalendar) return;
+  if (const auto term = CountedTermText(setup, entry_)) SetText(ui_->txtTerm, *term);
 }
 
 void DisclosureEntryWindow::ImgCalendar_Click(int index) {
-  QLineEdit* field = index == kStartDate ? ui_->tStartDate : ui_->tEndDate;
-  Date date = ParseDate(FieldText(field)).value_or(Today());
-  if (Windows().Get<CalendarPopup>().GetDate(date)) SetFieldText(field, FormatDate(date));
-  if (!ParseDate(FieldText(ui_->tStartDate))) {
-    Tell({"Starting Date is invalid, Please correct", "tStartDate"});
-    return;
+  QLineEdit* field = index == 0 ? ui_->tStartDate : ui_->tEndDate;
+  const Date from = ParseDate(TextOf(field)).value_or(Today());
+  const auto picked = windows().Get<CalendarPopup>().PickDate(from);
+  if (picked) SetText(field, FormatDate(*picked));
+  if (!ParseDate(entry_.tStartDate.text)) {
+    return Tell({"Starting Date is invalid, Please correct", "tStartDate"});
   }
   WriteCountedTerm();
 }
 
 void DisclosureEntryWindow::Attempt() {
-  DisclosureEntry entry = ReadFields();
-  if (IsRateMissing(entry)) return InternalError();
-  const AttemptOutcome outcome = AttemptCalculation(Session(), entry);
-  WriteFields(entry);
+  if (IsRateMissing(entry_)) return InternalError();
+  const AttemptOutcome outcome = AttemptCalculation(session().disclosure, entry_);
+  binding_->Show();
   if (outcome.refusal) return Tell(*outcome.refusal);
-  Session().EntryNavState = 1;
-  if (outcome.showsResults) return ShowResults();
+  if (outcome.showsResults) return routes().ShowDisclosureResults();
   cmdSetProperties_Click();
   Form_Activate();
-}
-
-void DisclosureEntryWindow::ShowResults() {
-  Windows().Discard<DisclosureResultsWindow>();
-  Windows().Show<DisclosureResultsWindow>();
-  hide();
 }
 
 void DisclosureEntryWindow::InternalError() {
   Tell({"An internal error has occurred.  When you click OK, the Corvane program will close.", "",
         "Internal Error"});
-  Windows().EndProgram();
+  windows().EndProgram();
 }
 
 void DisclosureEntryWindow::cmdBack_Click() {
-  const DisclosureEntry entry = ReadFields();
-  const int current = CurrentEntry(Session());
-  if (IsWorthKeeping(Session(), entry)) StoreEntry(Session(), current, entry);
-  Session().EntryNavState = 2;
-  if (current == 1) return LeaveBackward();
-  Load_Back_Data(current - 1);
+  DisclosureCheck& check = session().disclosure;
+  if (IsWorthKeeping(check, entry_)) KeepEntry(check, entry_);
+  if (check.completed == 0) return routes().BackFromDisclosureEntry();
+  --check.completed;
+  cmdSetProperties_Click();
   Form_Activate();
-}
-
-void DisclosureEntryWindow::LeaveBackward() {
-  Session().EntryDataKept = true;
-  if (IsTiered(Session())) {
-    Windows().Show<TierTableWindow>();
-  } else {
-    Windows().Get<DisclosureSetupWindow>().ShowAccountHeader();
-    Windows().Show<DisclosureSetupWindow>();
-  }
-  hide();
-}
-
-void DisclosureEntryWindow::ForgetAccount() {
-  ForgetEntries(Session());
-  Windows().Discard<TierTableWindow>();
-}
-
-void DisclosureEntryWindow::cmdAcctInfo_Click() {
-  CaptureUserInfo(Session(), HeaderMode::KeepInstitution);
-  ForgetAccount();
-  SizePeriodArrays(Session());
-  Windows().Get<DisclosureSetupWindow>().ShowAccountHeader();
-  Windows().Show<DisclosureSetupWindow>();
-  Windows().CloseWindowForNavigation(*this);
-}
-
-void DisclosureEntryWindow::cmdExit_Click() {
-  CaptureUserInfo(Session(), HeaderMode::ClearAll);
-  ForgetAccount();
-  Windows().Show<MainMenu>();
-  Windows().CloseWindowForNavigation(*this);
 }
 
 }  // namespace corvane

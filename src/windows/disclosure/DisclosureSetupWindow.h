@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "disclosure/DisclosureSetup.h"
+#include "windows/frame/FieldBinding.h"
 #include "windows/frame/Form.h"
 
 namespace Ui {
@@ -16,43 +17,22 @@ class DisclosureSetupWindow : public Form {
   Q_OBJECT
 
  public:
-  explicit DisclosureSetupWindow(WindowRegistry& windows);
+  explicit DisclosureSetupWindow(WindowRegistry& registry);
   ~DisclosureSetupWindow() override;
 
   void Form_Load() override;
   void Form_Activate() override;
 
-  /// Puts the stored institution, description and holder into their fields.
-  void ShowAccountHeader();
-  /// The options that the main menu starts the workflow with.
-  void SelectStartOptions();
-  /// Sets all tier rates and bounds of the record to 0.
-  void Clear_Tier_Data();
-
  private:
-  void optICNone_Click();
-  void optICDays_Click();
-  void optICMonths_Click();
-  void optICYears_Click();
-  void optDY365_Click();
-  void optDY366_Click();
-  void AccountType_Click(std::int16_t code);
-  void AccountHeader_LostFocus();
+  void BindHeader();
+  void ShowHeader();
+  void ShowGroups();
   void cmdNext_Click();
   void cmdNewAcct_Click();
-  void cmdExit_Click();
-
-  void ResetLayout();
-  void FullLayout();
-  void NoneYearsLayout();
-  void ShowInterval(const char* label, const char* note);
-  void SelectYearOf365();
-  void RestoreSelections();
-  void ShowNextWindow();
-  void Restore_Period_Data();
-  AccountSetup ReadChoices() const;
 
   std::unique_ptr<Ui::DisclosureSetupWindow> ui_;
+  DisclosureSetup choices_;  ///< taken over by Continue
+  std::unique_ptr<FieldBinding<DisclosureSetup>> binding_;
 };
 
 }  // namespace corvane

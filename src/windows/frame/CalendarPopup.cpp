@@ -20,8 +20,8 @@ constexpr int kMonthsOfYear = 12;
 
 }  // namespace
 
-CalendarPopup::CalendarPopup(WindowRegistry& windows)
-    : Form(windows, Role::Secondary),
+CalendarPopup::CalendarPopup(WindowRegistry& registry)
+    : Form(registry, Role::Secondary),
       ui_(std::make_unique<Ui::CalendarPopup>()),
       current_(Today()) {
   ui_->setupUi(this);
@@ -36,20 +36,19 @@ CalendarPopup::CalendarPopup(WindowRegistry& windows)
 
 CalendarPopup::~CalendarPopup() = default;
 
-bool CalendarPopup::GetDate(Date& date, const QString& caption) {
+std::optional<Date> CalendarPopup::PickDate(const Date& from, const QString& caption) {
   dateChosen_ = false;
   if (!caption.isEmpty()) setWindowTitle(caption);
-  MoveTo(date.ok() ? date : Today());
+  MoveTo(from);
   PlaceBesidePointer();
   ui_->picMonth->setFocus();
   // Read when the window closes: it may be gone when the call below returns.
-  bool chosen = false;
-  connect(this, &Form::Unloaded, [this, &chosen, &date] {
-    chosen = dateChosen_;
-    if (chosen) date = current_;
+  std::optional<Date> picked;
+  connect(this, &Form::Unloaded, [this, &picked] {
+    if (dateChosen_) picked = current_;
   });
-  Windows().RunModal(*this);
-  return chosen;
+  windows().RunModal(*this);
+  return picked;
 }
 
 void CalendarPopup::PlaceBesidePointer() {
@@ -164,7 +163,7 @@ void CalendarPopup::Choose() {
 }
 
 void CalendarPopup::Close() {
-  Windows().CloseWindowForNavigation(*this);
+  windows().Close(*this);
 }
 
 bool CalendarPopup::eventFilter(QObject* watched, QEvent* event) {

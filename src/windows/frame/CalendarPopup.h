@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "support/Dates.h"
 #include "windows/frame/Form.h"
@@ -16,12 +17,12 @@ class CalendarPopup : public Form {
   Q_OBJECT
 
  public:
-  explicit CalendarPopup(WindowRegistry& windows);
+  explicit CalendarPopup(WindowRegistry& registry);
   ~CalendarPopup() override;
 
-  /// Shows the month of the date beside the mouse pointer and returns when the pop-up has closed:
-  /// true when a day was picked, which the date then holds.
-  bool GetDate(Date& date, const QString& caption = {});
+  /// Shows the month of a date beside the mouse pointer and returns when the pop-up has closed: the
+  /// day that was picked, or nothing.
+  std::optional<Date> PickDate(const Date& from, const QString& caption = {});
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

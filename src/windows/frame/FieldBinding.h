@@ -1,94 +1,85 @@
 #pragma once
 
-#include <span>
+#include <functional>
 
-#include <QtWidgets>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QScopedValueRollback>
 
 #include "account/Field.h"
-#include "support/Dates.h"
 #include "windows/frame/Form.h"
 
 namespace corvane {
 
-/// A text field and the member of the core's entry that is named like it.
-template <class Entry>
-struct FieldName {
-  const char* control;
-  StatementField Entry::*field;
-};
-
-/// An option (selected) or a group or button (enabled) and its member.
-template <class Entry>
-struct FlagName {
-  const char* control;
-  bool Entry::*flag;
-};
-
-/// Carries the state of a window's controls into the core's entry and back. While it writes, the
-/// window's change handlers stay away: the core has already drawn every consequence.
-template <class Entry>
+/// Binds the text fields and options of a window to values, by the name tables of their type: what
+/// is typed goes into the values at once, and an option does to them what its choice does. While
+/// the values are shown, the window's change handlers stay away: the core has drawn every
+/// consequence already.
+template <class Values>
 class FieldBinding {
  public:
-  FieldBinding(QWidget& window, std::span<const FieldName<Entry>> fields,
-               std::span<const FlagName<Entry>> options, std::span<const FlagName<Entry>> groups)
-      : window_(window), fields_(fields), options_(options), groups_(groups) {}
-
-  bool IsWriting() const { return writing_; }
-
-  Entry Read() const {
-    Entry entry;
-    for (const auto& name : fields_) {
-      const auto* edit = Control<QLineEdit>(name.control);
-      entry.*name.field = {.text = FieldText(edit), .enabled = edit->isEnabledTo(&window_)};
-    }
-    for (const auto& name : options_) {
-      entry.*name.flag = Control<QRadioButton>(name.control)->isChecked();
-    }
-    for (const auto& name : groups_) {
-      entry.*name.flag = Control<QWidget>(name.control)->isEnabledTo(&window_);
-    }
-    return entry;
+  /// `onShown` is called after every showing, for what the window draws from the values besides.
+  FieldBinding(QWidget& window, Values& values, std::function<void()> onShown)
+      : window_(window), values_(values), onShown_(std::move(onShown)) {
+    for (const auto& name : Values::Fields()) BindField(name);
+    for (const auto& name : Values::Options()) BindOption(name);
   }
 
-  void Write(const Entry& entry) {
-    writing_ = true;
-    for (const auto& name : groups_) Control<QWidget>(name.control)->setEnabled(entry.*name.flag);
-    for (const auto& name : options_) WriteOption(name.control, entry.*name.flag);
-    for (const auto& name : fields_) WriteField(name.control, entry.*name.field);
-    writing_ = false;
+  bool IsShowing() const { return showing_; }
+
+  /// Puts the values into the controls.
+  void Show() {
+    {
+      const QScopedValueRollback showing(showing_, true);
+      for (const auto& name : Values::Options()) ShowOption(name);
+      for (const auto& name : Values::Fields()) ShowField(name);
+    }
+    onShown_();
   }
 
  private:
-  template <class AControl>
-  AControl* Control(const char* name) const {
-    return window_.findChild<AControl*>(name);
+  template <class Control>
+  Control* Find(const char* name) const {
+    return window_.findChild<Control*>(name);
   }
 
-  void WriteOption(const char* name, bool selected) {
-    auto* option = Control<QRadioButton>(name);
-    if (selected) {
+  void BindField(const FieldName<Values>& name) {
+    auto* edit = Find<QLineEdit>(name.control);
+    QObject::connect(edit, &QLineEdit::textChanged, &window_, [this, edit, field = name.field] {
+      if (!showing_) (values_.*field).text = TextOf(edit);
+    });
+  }
+
+  void BindOption(const OptionName<Values>& name) {
+    auto* option = Find<QRadioButton>(name.control);
+    QObject::connect(option, &QRadioButton::toggled, &window_,
+                     [this, choose = name.choose](bool chosen) {
+                       if (!chosen || showing_) return;
+                       choose(values_);
+                       Show();
+                     });
+  }
+
+  void ShowOption(const OptionName<Values>& name) {
+    auto* option = Find<QRadioButton>(name.control);
+    if (name.isChosen(values_)) {
       option->setChecked(true);
     } else if (option->isChecked()) {
       ClearOption(option);
     }
   }
 
-  void WriteField(const char* name, const StatementField& field) {
-    auto* edit = Control<QLineEdit>(name);
+  void ShowField(const FieldName<Values>& name) {
+    auto* edit = Find<QLineEdit>(name.control);
+    const Field& field = values_.*name.field;
     edit->setEnabled(field.enabled);
-    if (FieldText(edit) == field.text) return;
-    if (field.text == kEmptyDateMask) {
-      edit->clear();
-    } else {
-      SetFieldText(edit, field.text);
-    }
+    if (TextOf(edit) != field.text) SetText(edit, field.text);
   }
 
   QWidget& window_;
-  std::span<const FieldName<Entry>> fields_;
-  std::span<const FlagName<Entry>> options_;
-  std::span<const FlagName<Entry>> groups_;
-  bool writing_ = false;
+  Values& values_;
+  std::function<void()> onShown_;
+  bool showing_ = false;
 };
 
 }  // namespace corvane

@@ -3,13 +3,11 @@
 #include <QtWidgets>
 
 #include "account/NumericEntry.h"
-#include "account/SessionRecord.h"
 #include "platform/HelpViewer.h"
 #include "platform/MessageBox.h"
 #include "platform/ProgramFolder.h"
 #include "support/NumberText.h"
 #include "windows/frame/WindowRegistry.h"
-#include "windows/start/AboutWindow.h"
 
 namespace corvane {
 
@@ -33,13 +31,18 @@ Form::Form(WindowRegistry& windows, Role role) : windows_(windows), role_(role) 
   });
 }
 
-SessionRecord& Form::Session() {
-  return windows_.Session();
+Session& Form::session() {
+  return windows_.session();
+}
+
+Routes& Form::routes() {
+  return windows_.routes();
 }
 
 void Form::Tell(const Refusal& refusal) {
+  const bool warns = refusal.icon == MessageIcon::Exclamation;
   ShowMessage(this, QString::fromStdString(refusal.text), QString::fromStdString(refusal.title),
-              refusal.icon);
+              warns ? QMessageBox::Warning : QMessageBox::NoIcon);
   if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
 }
 
@@ -65,16 +68,6 @@ void Form::OnMenu(QAction* item, Handler handler) {
   });
 }
 
-void Form::OnOption(QRadioButton* option, Handler handler) {
-  connect(option, &QRadioButton::toggled, this, [handler](bool selected) {
-    if (selected) handler();
-  });
-}
-
-void Form::OnChange(QLineEdit* field, Handler handler) {
-  connect(field, &QLineEdit::textChanged, this, handler);
-}
-
 void Form::OnGotFocus(QWidget* field, Handler handler) {
   gotFocus_[field] = std::move(handler);
 }
@@ -88,7 +81,8 @@ void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
   field->installEventFilter(this);
   // What an input method composes would not pass the key filter.
   field->setAttribute(Qt::WA_InputMethodEnabled, false);
-  OnChange(field, [this, field, rule] { NumericChange(field, rule); });
+  connect(field, &QLineEdit::textChanged, this,
+          [this, field, rule] { NumericChange(field, rule); });
 }
 
 void Form::SelectTextOnFocus(QLineEdit* field, int characters) {
@@ -101,8 +95,11 @@ void Form::SelectTextOnFocus(QLineEdit* field, int characters) {
 }
 
 void Form::RewriteOnLeaving(QLineEdit* field) {
-  OnLostFocus(field,
-              [field](const QString&) { SetFieldText(field, RewriteFixed2(FieldText(field))); });
+  OnLostFocus(field, [field](const QString&) { SetText(field, RewriteFixed2(TextOf(field))); });
+}
+
+void Form::BindText(QLineEdit* field, std::string& text) {
+  connect(field, &QLineEdit::textChanged, this, [field, &text] { text = TextOf(field); });
 }
 
 void Form::NameArrayElements() {
@@ -181,10 +178,6 @@ bool Form::CommitFor(QAction* item) {
   return !focusHeld_;
 }
 
-void Form::ShowAbout() {
-  windows_.ShowModal<AboutWindow>();
-}
-
 void Form::ShowHelpTopic(int context) {
   ShowHelp(this, HelpFile(), context);
 }
@@ -192,7 +185,7 @@ void Form::ShowHelpTopic(int context) {
 void Form::BindCommonMenus(int helpContext) {
   for (auto* item : findChildren<QAction*>()) {
     if (item->objectName() == "mnuExit") OnMenu(item, [this] { windows_.EndProgram(); });
-    if (item->objectName() == "mnuHelpAbout") OnMenu(item, [this] { ShowAbout(); });
+    if (item->objectName() == "mnuHelpAbout") OnMenu(item, [this] { routes().ShowAbout(); });
     if (item->objectName() == "mnuHelpTopics") {
       OnMenu(item, [this, helpContext] { ShowHelpTopic(helpContext); });
     }
@@ -210,11 +203,11 @@ void ClearOption(QRadioButton* option) {
   option->setAutoExclusive(true);
 }
 
-std::string FieldText(const QLineEdit* field) {
+std::string TextOf(const QLineEdit* field) {
   return field->displayText().toStdString();
 }
 
-void SetFieldText(QLineEdit* field, const std::string& text) {
+void SetText(QLineEdit* field, const std::string& text) {
   field->setText(QString::fromStdString(text));
 }
 

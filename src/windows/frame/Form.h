@@ -18,8 +18,9 @@ class QRadioButton;
 
 namespace corvane {
 
+class Routes;
 class WindowRegistry;
-struct SessionRecord;
+struct Session;
 
 /// How a numeric field treats what is typed into it (see NumericEntry.h).
 struct NumericRule {
@@ -68,15 +69,14 @@ class Form : public QMainWindow {
   /// Takes the object name of the control or menu item that the focus goes to.
   using LostFocusHandler = std::function<void(const QString& next)>;
 
-  SessionRecord& Session();
-  WindowRegistry& Windows() { return windows_; }
+  Session& session();
+  Routes& routes();
+  WindowRegistry& windows() { return windows_; }
 
   /// The wiring of a form's handlers. A button and a menu item take the focus before they act, and
   /// do not act when the field that loses it holds on to it.
   void OnClick(QAbstractButton* button, Handler handler);
   void OnMenu(QAction* item, Handler handler);
-  void OnOption(QRadioButton* option, Handler handler);
-  void OnChange(QLineEdit* field, Handler handler);
   void OnGotFocus(QWidget* field, Handler handler);
   void OnLostFocus(QWidget* field, LostFocusHandler handler);
 
@@ -91,10 +91,12 @@ class Form : public QMainWindow {
   /// Rewrites the field "######0.00" when it loses the focus.
   void RewriteOnLeaving(QLineEdit* field);
 
+  /// Keeps a text as it is typed.
+  void BindText(QLineEdit* field, std::string& text);
+
   /// Called by a LostFocus handler that refuses: the focus returns to the field.
   void HoldFocus(QWidget* field);
 
-  void ShowAbout();
   void ShowHelpTopic(int context);
   /// Wires the items that every window's menus share, as far as the form has them: Exit, Topics
   /// with the window's help context, About.
@@ -124,7 +126,7 @@ class Form : public QMainWindow {
 void ClearOption(QRadioButton* option);
 
 /// Text between the windows and the core, which holds UTF-8.
-std::string FieldText(const QLineEdit* field);
-void SetFieldText(QLineEdit* field, const std::string& text);
+std::string TextOf(const QLineEdit* field);
+void SetText(QLineEdit* field, const std::string& text);
 
 }  // namespace corvane

@@ -4,13 +4,11 @@
 #include <QEventLoop>
 #include <QThread>
 
-#include "account/AccountHeader.h"
-#include "account/SessionRecord.h"
 #include "platform/WorkArea.h"
 
 namespace corvane {
 
-WindowRegistry::WindowRegistry(SessionRecord& session) : session_(session) {}
+WindowRegistry::WindowRegistry(Session& session) : session_(session) {}
 
 WindowRegistry::~WindowRegistry() {
   while (!open_.empty()) {
@@ -59,45 +57,30 @@ void WindowRegistry::RunModal(Form& form) {
   loop.exec(QEventLoop::DialogExec);
 }
 
-void WindowRegistry::Unload(Form& form) {
+void WindowRegistry::Close(Form& form) {
   std::erase_if(open_, [&form](const Entry& entry) { return entry.form == &form; });
   form.hide();
   emit form.Unloaded();
   // The form may be inside one of its own handlers.
   form.deleteLater();
-  if (form.WindowRole() == Form::Role::Main) WindowUnloadHook();
 }
 
-void WindowRegistry::CloseWindowForNavigation(Form& form) {
-  const Flag before = session_.UnloadEndsProgram;
-  session_.UnloadEndsProgram = false;
-  Unload(form);
-  // Closing a secondary window must not leave the frame of the window behind it without effect.
-  if (form.WindowRole() == Form::Role::Secondary) session_.UnloadEndsProgram = before;
-}
-
-void WindowRegistry::WindowUnloadHook() {
-  if (session_.UnloadEndsProgram) {
-    EndProgram();
-  } else {
-    session_.UnloadEndsProgram = true;
+void WindowRegistry::CloseOtherMainWindows(const Form& kept) {
+  const auto open = open_;
+  for (const Entry& entry : open) {
+    const bool isMain = entry.form->WindowRole() == Form::Role::Main;
+    if (isMain && entry.form != &kept) Close(*entry.form);
   }
 }
 
 void WindowRegistry::CloseByFrame(Form& form) {
-  if (form.WindowRole() == Form::Role::Secondary) {
-    CloseWindowForNavigation(form);
-    return;
-  }
-  session_.UnloadEndsProgram = true;
-  Unload(form);
+  if (form.WindowRole() == Form::Role::Main) return EndProgram();
+  Close(form);
 }
 
 void WindowRegistry::EndProgram() {
-  if (ending_) return;
-  ending_ = true;
-  CaptureUserInfo(session_, HeaderMode::ClearAll);
-  while (!open_.empty()) Unload(*open_.back().form);
+  session_.header = {};
+  while (!open_.empty()) Close(*open_.back().form);
   EndProcess();
 }
 

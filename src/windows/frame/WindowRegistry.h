@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "windows/frame/Form.h"
+#include "windows/frame/Routes.h"
+#include "windows/frame/Session.h"
 
 namespace corvane {
 
@@ -13,13 +15,14 @@ namespace corvane {
 /// closes it, and ends the program.
 class WindowRegistry {
  public:
-  explicit WindowRegistry(SessionRecord& session);
+  explicit WindowRegistry(Session& session);
   ~WindowRegistry();
 
   WindowRegistry(const WindowRegistry&) = delete;
   WindowRegistry& operator=(const WindowRegistry&) = delete;
 
-  SessionRecord& Session() { return session_; }
+  Session& session() { return session_; }
+  Routes& routes() { return routes_; }
 
   /// The form, or null when it was never made or is closed.
   template <class AForm>
@@ -44,36 +47,24 @@ class WindowRegistry {
     return form;
   }
 
-  /// Shows the form above all others and returns when it has closed.
-  template <class AForm>
-  void ShowModal() {
-    RunModal(Get<AForm>());
-  }
-
   /// Closes the form as part of moving on; does nothing when it is not loaded.
   template <class AForm>
   void Discard() {
-    if (auto* form = Find<AForm>()) CloseWindowForNavigation(*form);
+    if (auto* form = Find<AForm>()) Close(*form);
   }
 
   /// Closes a window without ending the program.
-  void CloseWindowForNavigation(Form& form);
-
-  /// The unload of every main window: ends the program unless navigation closed the window.
-  void WindowUnloadHook();
-
+  void Close(Form& form);
+  /// Closes every main window but this one.
+  void CloseOtherMainWindows(const Form& kept);
   /// The person closed the window by its frame: ends the program, or closes a secondary window.
   void CloseByFrame(Form& form);
-
-  /// Shows an already made form modally and returns when it has closed.
+  /// Shows an already made form above all others and returns when it has closed.
   void RunModal(Form& form);
-
   /// The one orderly way out: clears the identification, closes all windows newest first, ends.
   void EndProgram();
-
   /// Ends the process at once, leaving windows as they are.
   void EndProcess();
-
   /// Whether the program has ended; a test reads it, for its own process goes on.
   bool HasEnded() const { return ended_; }
 
@@ -87,11 +78,10 @@ class WindowRegistry {
   void Add(std::type_index type, Form* form);
   void PlaceBeforeShowing(Form& form);
   void BringToFront(Form& form);
-  void Unload(Form& form);
 
-  SessionRecord& session_;
+  Session& session_;
+  Routes routes_{*this};
   std::vector<Entry> open_;  ///< oldest first
-  bool ending_ = false;
   bool ended_ = false;
 };
 

@@ -2,11 +2,12 @@
 
 #include <QtWidgets>
 
-#include "platform/FormCenter.h"
 #include "platform/MessageBox.h"
 #include "platform/Pictures.h"
 #include "platform/ProgramFolder.h"
 #include "platform/SystemInfo.h"
+#include "platform/WorkArea.h"
+#include "support/Paths.h"
 #include "support/ProgramTitle.h"
 #include "ui_AboutWindow.h"
 #include "windows/frame/WindowRegistry.h"
@@ -19,17 +20,17 @@ constexpr const char* kSupportContact = "corvane-support@example.org";
 
 }  // namespace
 
-AboutWindow::AboutWindow(WindowRegistry& windows)
-    : Form(windows, Role::Secondary), ui_(std::make_unique<Ui::AboutWindow>()) {
+AboutWindow::AboutWindow(WindowRegistry& registry)
+    : Form(registry, Role::Secondary), ui_(std::make_unique<Ui::AboutWindow>()) {
   ui_->setupUi(this);
-  OnClick(ui_->cmdOK, [this] { Windows().CloseWindowForNavigation(*this); });
+  OnClick(ui_->cmdOK, [this] { windows().Close(*this); });
   OnClick(ui_->cmdSysInfo, [this] { cmdSysInfo_Click(); });
 }
 
 AboutWindow::~AboutWindow() = default;
 
 void AboutWindow::Form_Load() {
-  clsFormCenter().CenterForm(*this);
+  CenterInWorkArea(*this);
   const QString title = kProgramTitle;
   setWindowTitle("About " + title);
   ui_->picIcon->setPixmap(ProgramIcon().pixmap(128));
@@ -45,7 +46,7 @@ void AboutWindow::Form_Load() {
 void AboutWindow::cmdSysInfo_Click() {
   if (StartSysInfo()) return;
   ShowMessage(this, "System Information Is Unavailable At This Time", kProgramTitle,
-              MessageIcon::None);
+              QMessageBox::NoIcon);
 }
 
 }  // namespace corvane

@@ -15,7 +15,7 @@ class AboutWindow : public Form {
   Q_OBJECT
 
  public:
-  explicit AboutWindow(WindowRegistry& windows);
+  explicit AboutWindow(WindowRegistry& registry);
   ~AboutWindow() override;
 
   void Form_Load() override;

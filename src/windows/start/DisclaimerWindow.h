@@ -15,14 +15,12 @@ class DisclaimerWindow : public Form {
   Q_OBJECT
 
  public:
-  explicit DisclaimerWindow(WindowRegistry& windows);
+  explicit DisclaimerWindow(WindowRegistry& registry);
   ~DisclaimerWindow() override;
 
   void Form_Load() override;
 
  private:
-  void cmdOK_Click();
-
   std::unique_ptr<Ui::DisclaimerWindow> ui_;
 };
 

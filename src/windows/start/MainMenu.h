@@ -17,25 +17,20 @@ class MainMenu : public Form {
   Q_OBJECT
 
  public:
-  explicit MainMenu(WindowRegistry& windows);
+  explicit MainMenu(WindowRegistry& registry);
   ~MainMenu() override;
 
   void Form_Load() override;
   bool PlacesItself() const override { return true; }
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void cmdAcctAdv_Click();
-  void cmdStatement_Click();
-  void cmdExit_Click();
   void mnuShowTitle_Click();
-  void Form_KeyDown(int key);
 
   QFrame* shape1_ = nullptr;
-
   std::unique_ptr<Ui::MainMenu> ui_;
 };
 

@@ -2,14 +2,11 @@
 
 #include <QtWidgets>
 
-#include "account/SessionRecord.h"
-#include "platform/FormCenter.h"
 #include "platform/MessageBox.h"
-#include "statement/DailyHandBack.h"
+#include "platform/WorkArea.h"
 #include "support/ProgramTitle.h"
 #include "ui_DailyBalancesWindow.h"
 #include "windows/frame/WindowRegistry.h"
-#include "windows/statement/InterestReportWindow.h"
 
 namespace corvane {
 
@@ -40,14 +37,14 @@ void KeepReadable(QLineEdit* field) {
 
 }  // namespace
 
-DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& windows)
-    : Form(windows, Role::Secondary), ui_(std::make_unique<Ui::DailyBalancesWindow>()) {
+DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& registry)
+    : Form(registry, Role::Secondary), ui_(std::make_unique<Ui::DailyBalancesWindow>()) {
   ui_->setupUi(this);
   setWindowFlag(Qt::Dialog);
   NameArrayElements();
   BuildRows();
-  OnClick(ui_->cmdPrevious, [this] { GoToPage(page_ - 1); });
-  OnClick(ui_->cmdNext, [this] { GoToPage(page_ + 1); });
+  OnClick(ui_->cmdPrevious, [this] { LeaveForPage(page_ - 1); });
+  OnClick(ui_->cmdNext, [this] { LeaveForPage(page_ + 1); });
   OnClick(ui_->cmdContinue, [this] { cmdContinue_Click(); });
   OnClick(ui_->cmdClear, [this] { cmdClear_Click(); });
   OnClick(ui_->cmdPrint, [this] { cmdPrint_Click(); });
@@ -93,98 +90,100 @@ void DailyBalancesWindow::BindRow(std::size_t index) {
 }
 
 void DailyBalancesWindow::Form_Load() {
-  clsFormCenter().CenterForm(*this);
+  CenterInWorkArea(*this);
 }
 
 bool DailyBalancesWindow::Form_QueryUnload() {
-  const bool closes = AskYesNo(
+  return AskYesNo(
       this, "Any data you have entered will be lost. Are you sure you want to close this window?",
       kProgramTitle);
-  if (closes) Session().ComputeFlag = true;
-  return closes;
 }
 
-void DailyBalancesWindow::EnterDays(double interestRate) {
-  if (const auto refusal = LoadDailyBalances(Session(), interestRate, daily_)) {
-    Tell(*refusal);
-    Session().ComputeFlag = true;
-    return Windows().CloseWindowForNavigation(*this);
-  }
-  ui_->lblMinADB->setText(QString::fromStdString(MinimumAdbText(Session())));
-  ui_->lblMinBal->setText(QString::fromStdString(MinimumDailyBalanceText(Session())));
+void DailyBalancesWindow::Edit(DailyBalances& daily, std::optional<ComputedDays>& computed) {
+  daily_ = &daily;
+  computed_ = &computed;
+  ui_->lblMinADB->setText(QString::fromStdString(MinimumAdbText(daily.account)));
+  ui_->lblMinBal->setText(QString::fromStdString(MinimumDailyBalanceText(daily.account)));
   GoToPage(1);
-  Windows().RunModal(*this);
+}
+
+void DailyBalancesWindow::LeaveForPage(int page) {
+  TakePage();
+  GoToPage(page);
 }
 
 void DailyBalancesWindow::GoToPage(int page) {
-  if (page != page_) TakePage();
   page_ = page;
   ShowPage();
   FocusField(rows_.front().balance);
 }
 
 void DailyBalancesWindow::ShowPage() {
-  const DaySpan span = DaysOnPage(page_, daily_.days.size());
-  for (std::size_t row = 0; row < rows_.size(); ++row) ShowRow(row, span.first + row);
+  const std::size_t first = ShownDays().first;
+  for (std::size_t row = 0; row < rows_.size(); ++row) ShowRow(row, first + row);
   ui_->cmdPrevious->setEnabled(page_ > 1);
-  ui_->cmdNext->setEnabled(HasNextPage(page_, daily_.days.size()));
+  ui_->cmdNext->setEnabled(HasNextPage(page_, daily_->days.size()));
 }
 
 void DailyBalancesWindow::ShowRow(std::size_t row, std::size_t day) {
   const Row& controls = rows_[row];
-  const bool exists = day < daily_.days.size();
-  const DayTexts texts = exists ? TextsOfDay(daily_, day) : DayTexts{};
-  const QString date = QString::fromStdString(DayLabel(Session().PeriodStart, day));
-  controls.label->setText(date);
+  const bool exists = day < daily_->days.size();
+  const DayTexts texts = exists ? TextsOfDay(*daily_, day) : DayTexts{};
+  const Date date = AddDays(daily_->start, static_cast<int>(day));
+  const QString label = QString::fromStdString(FormatMonthDay(date));
+  controls.label->setText(label);
   controls.label->setVisible(exists);
   controls.balance->setVisible(exists);
-  controls.balance->setAccessibleName("Daily balance " + date);
-  SetFieldText(controls.balance, texts.balance);
+  controls.balance->setAccessibleName("Daily balance " + label);
+  SetText(controls.balance, texts.balance);
   controls.rate->setVisible(exists);
-  controls.rate->setEnabled(daily_.TakesRates());
-  controls.rate->setAccessibleName("Rate " + date);
-  SetFieldText(controls.rate, texts.rate);
+  controls.rate->setEnabled(daily_->TakesRates());
+  controls.rate->setAccessibleName("Rate " + label);
+  SetText(controls.rate, texts.rate);
 }
 
 void DailyBalancesWindow::TakePage() {
-  const DaySpan span = DaysOnPage(page_, daily_.days.size());
+  const DaySpan span = ShownDays();
   for (std::size_t day = span.first; day < span.end; ++day) TakeRow(day - span.first, day);
 }
 
 void DailyBalancesWindow::TakeRow(std::size_t row, std::size_t day) {
-  TakeDay(daily_, day, {FieldText(rows_[row].balance), FieldText(rows_[row].rate)});
+  TakeDay(*daily_, day, {TextOf(rows_[row].balance), TextOf(rows_[row].rate)});
 }
 
 void DailyBalancesWindow::txtDayBal_LostFocus(std::size_t row) {
-  const std::size_t day = DaysOnPage(page_, daily_.days.size()).first + row;
-  const DayTexts texts = EnterBalance(daily_, day, FieldText(rows_[row].balance));
-  SetFieldText(rows_[row].balance, texts.balance);
-  SetFieldText(rows_[row].rate, texts.rate);
+  const std::size_t day = ShownDays().first + row;
+  const DayTexts texts = EnterBalance(*daily_, day, TextOf(rows_[row].balance));
+  SetText(rows_[row].balance, texts.balance);
+  SetText(rows_[row].rate, texts.rate);
 }
 
 void DailyBalancesWindow::txtRate_LostFocus(std::size_t row) {
-  TakeRow(row, DaysOnPage(page_, daily_.days.size()).first + row);
+  TakeRow(row, ShownDays().first + row);
 }
 
 void DailyBalancesWindow::cmdContinue_Click() {
   TakePage();
-  if (const auto refusal = ComputeAdb(Session(), daily_)) {
+  FillRates(*daily_);
+  auto computed = ComputeAdb(*daily_);
+  if (const auto* refusal = std::get_if<Refusal>(&computed)) {
     ShowPage();
     return Tell(*refusal);
   }
-  Windows().CloseWindowForNavigation(*this);
+  *computed_ = std::get<ComputedDays>(std::move(computed));
+  windows().Close(*this);
 }
 
 void DailyBalancesWindow::cmdClear_Click() {
-  ClearDays(daily_);
+  ClearDays(*daily_);
   GoToPage(1);
 }
 
 void DailyBalancesWindow::cmdPrint_Click() {
   TakePage();
-  StoreDays(Session(), daily_);
+  FillRates(*daily_);
   ShowPage();
-  Windows().ShowModal<InterestReportWindow>();
+  routes().ShowInterestReport(*daily_);
 }
 
 }  // namespace corvane

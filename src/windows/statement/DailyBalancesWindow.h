@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "statement/DailyBalances.h"
-#include "statement/DailyPages.h"
 #include "windows/frame/Form.h"
 
 class QLabel;
@@ -21,16 +20,15 @@ class DailyBalancesWindow : public Form {
   Q_OBJECT
 
  public:
-  explicit DailyBalancesWindow(WindowRegistry& windows);
+  explicit DailyBalancesWindow(WindowRegistry& registry);
   ~DailyBalancesWindow() override;
 
   void Form_Load() override;
   bool Form_QueryUnload() override;
 
-  /// Shows the days of the column that LedgerBasis names and returns when the window has closed;
-  /// ComputeFlag then tells that no average was handed back. `interestRate` is the regular
-  /// account's, percent a year.
-  void EnterDays(double interestRate);
+  /// Shows the days, which keep what is entered; `computed` gets what Compute ADB found of them.
+  /// Both have to live until the window has closed.
+  void Edit(DailyBalances& daily, std::optional<ComputedDays>& computed);
 
  private:
   struct Row {
@@ -48,15 +46,18 @@ class DailyBalancesWindow : public Form {
   void cmdClear_Click();
   void cmdPrint_Click();
 
+  void LeaveForPage(int page);
   void GoToPage(int page);
   void ShowPage();
   void ShowRow(std::size_t row, std::size_t day);
   void TakePage();
   void TakeRow(std::size_t row, std::size_t day);
+  DaySpan ShownDays() const { return DaysOnPage(page_, daily_->days.size()); }
 
   std::unique_ptr<Ui::DailyBalancesWindow> ui_;
   std::array<Row, kDaysPerPage> rows_{};
-  DailyBalances daily_;
+  DailyBalances* daily_ = nullptr;
+  std::optional<ComputedDays>* computed_ = nullptr;
   int page_ = 1;
 };
 

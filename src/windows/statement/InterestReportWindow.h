@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "windows/frame/Form.h"
-#include "windows/frame/ReportViewer.h"
+#include "statement/DailyBalances.h"
+#include "windows/frame/ReportWindow.h"
 
 namespace Ui {
 class InterestReportWindow;
@@ -11,27 +11,25 @@ class InterestReportWindow;
 
 namespace corvane {
 
-/// The interest report: balance and rate of every day of the statement period, shown above the
-/// window that asked for it.
-class InterestReportWindow : public Form {
+/// The interest report: date, balance and rate of every day of a statement period.
+class InterestReportWindow : public ReportWindow {
   Q_OBJECT
 
  public:
-  explicit InterestReportWindow(WindowRegistry& windows);
+  explicit InterestReportWindow(WindowRegistry& registry);
   ~InterestReportWindow() override;
 
-  void Form_Load() override;
   void Form_Activate() override;
 
-  /// Builds the report from the days in the session record and shows it.
-  void Create_Web_Report();
+  /// Builds the report. It is built before the window shows: the desktop would map a window that
+  /// gets its browser later anew, behind the one that it is for.
+  void ShowDays(const DailyBalances& daily);
 
  private:
-  void cmdExit_Click();
+  ReportContent Content() override;
 
   std::unique_ptr<Ui::InterestReportWindow> ui_;
-  WebView* webView_;
-  std::unique_ptr<ReportViewer> viewer_;
+  DailyBalances daily_;
 };
 
 }  // namespace corvane

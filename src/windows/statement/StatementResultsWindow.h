@@ -2,8 +2,7 @@
 
 #include <memory>
 
-#include "windows/frame/Form.h"
-#include "windows/frame/ReportViewer.h"
+#include "windows/frame/ReportWindow.h"
 
 namespace Ui {
 class StatementResultsWindow;
@@ -11,28 +10,22 @@ class StatementResultsWindow;
 
 namespace corvane {
 
-/// The statement results: the summary report of a check, to be read, printed and saved.
-class StatementResultsWindow : public Form {
+/// The statement results: the summary report of a check, and the way to its days.
+class StatementResultsWindow : public ReportWindow {
   Q_OBJECT
 
  public:
-  explicit StatementResultsWindow(WindowRegistry& windows);
+  explicit StatementResultsWindow(WindowRegistry& registry);
   ~StatementResultsWindow() override;
 
   void Form_Load() override;
   void Form_Activate() override;
 
  private:
-  void BuildReport();
+  ReportContent Content() override;
   void cmdDetail_Click();
-  void cmdBack_Click();
-  void cmdAcct_Click();
-  void cmdExit_Click();
 
   std::unique_ptr<Ui::StatementResultsWindow> ui_;
-  WebView* webView_;
-  std::unique_ptr<ReportViewer> viewer_;
-  bool built_ = false;
 };
 
 }  // namespace corvane

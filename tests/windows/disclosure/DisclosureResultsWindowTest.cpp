@@ -31,9 +31,8 @@ TEST_F(ResultsWindow, EachWayOutKeepsAndForgetsItsOwn) {
     GoTo<DisclosureEntryWindow>("cmdBack");
     EXPECT_EQ(Text("txtIntRateA"), "5.2512");
     Calculate();
-    session.EntryDataKept = session.TierFormLoaded = true;
     c.leave();
-    EXPECT_FALSE(session.EntryDataKept || session.TierFormLoaded);
+    EXPECT_TRUE(session.disclosure.entries.empty());
     EXPECT_FALSE(IsVisible<DisclosureResultsWindow>() || IsVisible<DisclosureEntryWindow>());
     if (c.toMainMenu) Start();
     InFront<DisclosureSetupWindow>();
@@ -63,7 +62,7 @@ TEST_F(ResultsWindow, SaveAsWritesThePageUnderTheFixedName) {
   Menu("mnuFile", "mnuSave");
   EXPECT_TRUE(QDir(folder.path()).isEmpty()) << "cancelled";
   EXPECT_EQ(asked.fileName, "Disclosed_APY_Summary.html");
-  EXPECT_EQ(asked.folder.toStdString(), session.AppDataFolder);
+  EXPECT_EQ(asked.folder.toStdString(), session.dataFolder.string());
   EXPECT_EQ(asked.filter, "HTML Files (*.htm *.html)");
   answer = "my.copy";
   Menu("mnuFile", "mnuSave");
@@ -82,7 +81,7 @@ TEST_F(ResultsWindow, SaveAsWritesThePageUnderTheFixedName) {
 }
 
 TEST_F(ResultsWindow, WithoutAReportPrintAndSaveDoNothing) {
-  const auto folder = std::exchange(session.AppDataFolder, "/no such folder");
+  const auto folder = std::exchange(session.dataFolder, "/no such folder");
   Expect(
       {"The report could not be written: /no such folder/Disclosed_APY_Summary.html\n"
        "No such file or directory",
@@ -94,7 +93,7 @@ TEST_F(ResultsWindow, WithoutAReportPrintAndSaveDoNothing) {
   });
   Menu("mnuFile", "mnuSave");
   Click("cmdPrint");
-  session.AppDataFolder = folder;
+  session.dataFolder = folder;
   GoTo<DisclosureEntryWindow>("cmdBack");
   Calculate();
   EXPECT_NE(Report().find("Bank"), std::string::npos) << "built anew";
@@ -104,7 +103,7 @@ class EndOfTheProgram : public ResultsWindow {
  protected:
   void TearDown() override {
     EXPECT_TRUE(windows.HasEnded());
-    EXPECT_EQ(session.InstitutionName, "");
+    EXPECT_EQ(session.header.institution, "");
     for (const QWidget* window : QApplication::topLevelWidgets()) {
       EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString();
     }

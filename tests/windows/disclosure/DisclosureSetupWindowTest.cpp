@@ -50,11 +50,7 @@ TEST_F(AccountSetupWindow, OptionsChangeOneAnother) {
 }
 
 TEST_F(AccountSetupWindow, ContinueRefusesOrStoresWhatIsChosen) {
-  ClearOption(Get<QRadioButton>("optRegNoDisc"));
-  Expect({"Please select an Account Type.", kKeyEntryError, MessageIcon::None});
-  Click("cmdNext");
-  EXPECT_FALSE(session.CompoundDays) << "nothing is stored";
-  Enter("optRegNoDisc txtDailyCompounding=32768");
+  Enter("txtDailyCompounding=32768");
   ExpectText("Please enter a valid compounding interval.");
   Click("cmdNext");
   EXPECT_EQ(Focus(), "txtDailyCompounding");
@@ -65,17 +61,20 @@ TEST_F(AccountSetupWindow, ContinueRefusesOrStoresWhatIsChosen) {
   Expect({"Count 2/29 will be changed to Yes, No is not allowed for 366 days.", kKeyEntryError,
           MessageIcon::None});
   Continue();
-  EXPECT_EQ(session.CompoundingDays, 0) << "the interval was no number";
-  EXPECT_EQ(session.DaysInYear, 366);
-  EXPECT_TRUE(session.CountLeapDay && session.ReqWdrwlMonths && session.CompoundDays);
+  EXPECT_EQ(Text("txtDailyRateFactor"), "1/366");
+  EXPECT_TRUE(IsShown("txtWdrwlPeriods"));
+  GoTo<DisclosureSetupWindow>("cmdBack");
+  EXPECT_EQ(Text("txtDailyCompounding"), "0") << "the interval was no number";
+  EXPECT_TRUE(IsChosen("optLYYes"));
 }
 
-TEST_F(AccountSetupWindow, TheHeaderIsStoredOnLeavingItsFieldsAndClearedByEachWay) {
+TEST_F(AccountSetupWindow, TheHeaderIsKeptAsTypedAndClearedByEachWay) {
   const auto header = [this] {
-    return session.InstitutionName + "/" + session.AccountDescription + "/" + session.AccountHolder;
+    return session.header.institution + "/" + session.header.description + "/" +
+           session.header.holder;
   };
   Enter("txtName=Bank txtDepositInst=CD txtDepositorName=Holder");
-  EXPECT_EQ(header(), "Bank/CD/");
+  EXPECT_EQ(header(), "Bank/CD/Holder");
   Click("cmdNewAcct");
   EXPECT_EQ(header(), "Bank//") << "New Account keeps the institution";
   EXPECT_EQ(Focus(), "txtName");

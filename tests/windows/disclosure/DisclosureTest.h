@@ -57,22 +57,38 @@ class DisclosureTest : public WindowTest {
   }
 
   std::string Report() {
-    QFile file(QString::fromStdString(session.AppDataFolder) + "/Disclosed_APY_Summary.html");
+    QFile file(session.dataFolder / "Disclosed_APY_Summary.html");
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     return file.readAll().toStdString();
   }
 
-  int ReportRowCount() {
-    return static_cast<int>(QString::fromStdString(Report()).count("<TR align=center>"));
+  QStringList ReportRows() {
+    QStringList rows = QString::fromStdString(Report()).split("<TR align=center>");
+    rows.removeFirst();
+    return rows;
   }
 
-  /// A column of the report's rows, joined with blanks.
-  static std::string Column(const Table<std::string>& column) {
-    std::string joined;
-    for (int row = column.First(); row <= column.Last(); ++row) {
-      joined += (row > column.First() ? " " : "") + column.At(row);
+  int ReportRowCount() { return static_cast<int>(ReportRows().size()); }
+
+  enum class ReportCell {
+    Number,
+    Balance,
+    Rate,
+    Term,
+    Interest,
+    DisclosedApy,
+    ComputedApy,
+    Verdict
+  };
+
+  /// What a column of the report's rows shows, joined with blanks.
+  std::string Column(ReportCell cell) {
+    static const QRegularExpression markup("<[^>]*>|&nbsp;");
+    QStringList shown;
+    for (const QString& row : ReportRows()) {
+      shown += row.section("</TD>", int(cell), int(cell)).remove(markup).trimmed();
     }
-    return joined;
+    return shown.join(' ').toStdString();
   }
 };
 

@@ -27,7 +27,7 @@ TEST_F(SteppedAccount, ComputesTheRegulationsExamplePeriodByPeriod) {
   EXPECT_EQ(Focus(), "txtTierPerNum");
   Complete("txtTierPerNum=2 txtDiscAPY=5.39 txtBal=1000 txtIntRateA=5 txtTerm=91");
   EXPECT_EQ(ReportRowCount(), 2) << "the period to come shows as an unfilled row";
-  EXPECT_EQ(Column(session.RptVerdict), "APY VIOLATION ");
+  EXPECT_EQ(Column(ReportCell::Verdict), "APY VIOLATION ");
   EXPECT_EQ(Caption("lblPeriodNumber"), "Period No. 2");
   EXPECT_EQ(Shown("txtIntRateA txtBal"), "txtIntRateA= txtBal=1000.00");
   for (const char* fixed : {"txtTierPerNum", "txtDiscAPY", "txtBal"}) {
@@ -36,12 +36,12 @@ TEST_F(SteppedAccount, ComputesTheRegulationsExamplePeriodByPeriod) {
   Enter("txtIntRateA=5.5 txtTerm=92");
   Calculate();
   EXPECT_EQ(ReportRowCount(), 2);
-  EXPECT_NEAR(session.ComputedInterest, 26.68, 0.005);
-  EXPECT_EQ(Column(session.RptComputedApy), "N/A 5.39%");
-  EXPECT_EQ(Column(session.RptDisclosedApy), "5.39% 5.39%");
-  EXPECT_EQ(Column(session.RptVerdict), "N/A OK");
-  EXPECT_EQ(Column(session.RptBalance), "$1,000.00 ");
-  EXPECT_EQ(Column(session.RptTerm), "91.00 92.00");
+  EXPECT_NEAR(session.disclosure.result->interest, 26.68, 0.005);
+  EXPECT_EQ(Column(ReportCell::ComputedApy), "N/A 5.39%");
+  EXPECT_EQ(Column(ReportCell::DisclosedApy), "5.39% 5.39%");
+  EXPECT_EQ(Column(ReportCell::Verdict), " OK");
+  EXPECT_EQ(Column(ReportCell::Balance), "$1,000.00 ");
+  EXPECT_EQ(Column(ReportCell::Term), "91.00 92.00");
 }
 
 TEST_F(SteppedAccount, BackCorrectsEveryPeriodAndAnotherNumberForgetsThoseBehindTheFirst) {
@@ -50,7 +50,7 @@ TEST_F(SteppedAccount, BackCorrectsEveryPeriodAndAnotherNumberForgetsThoseBehind
   Complete("txtIntRateA=5 txtTerm=120");
   Enter("txtIntRateA=6 txtTerm=145");
   Calculate();
-  const double interest = session.ComputedInterest;
+  const double interest = session.disclosure.result->interest;
   Back();
   EXPECT_EQ(Caption("lblPeriodNumber"), "Period No. 3");
   EXPECT_EQ(Text("txtIntRateA"), "6.00");
@@ -61,7 +61,7 @@ TEST_F(SteppedAccount, BackCorrectsEveryPeriodAndAnotherNumberForgetsThoseBehind
   EXPECT_EQ(Shown("txtIntRateA txtBal"), "txtIntRateA=5.00 txtBal=2000.00") << "as stored";
   Complete();
   Calculate();
-  EXPECT_NEAR(session.ComputedInterest, 2 * interest, 0.01);
+  EXPECT_NEAR(session.disclosure.result->interest, 2 * interest, 0.01);
   for (int period = 3; period >= 1; --period) Back();
   Complete("txtTierPerNum=2");
   EXPECT_EQ(Text("txtIntRateA"), "");

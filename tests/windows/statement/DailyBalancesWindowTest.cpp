@@ -28,7 +28,7 @@ TEST_F(DailyBalancesEntry, TheWholeWayFromTypedDaysToTheInterestReport) {
   });
   EXPECT_EQ(Text("txtADBLedgerBalance") + " " + Text("txtIntAmt"), "1000.00 5.25");
   Calculate();
-  EXPECT_EQ(session.ComputedApy, 6.58);
+  EXPECT_EQ(session.statement.result->apy, 6.58);
   ASSERT_TRUE(IsEnabled("cmdDetail"));
   ClickInto<InterestReportWindow>("cmdDetail", [this] { Click("cmdExit"); });
   EXPECT_EQ(CountInReport(kDays, "$1,500.00"), 15);
@@ -80,8 +80,7 @@ TEST_F(DailyBalancesEntry, ThirtyThreeDaysStandOnAPage) {
       EXPECT_EQ(Text("txtDayBal(0)"), "100.00");
       Click("cmdContinue");
     });
-    EXPECT_NEAR(session.ComputedAdb, 800 / std::stod(row.days), 0.005);
-    EXPECT_EQ(session.LedgerDayBalances.At(std::stoi(row.days)), 700);
+    EXPECT_NEAR(std::stod(Text("txtADBLedgerBalance")), 800 / std::stod(row.days), 0.005);
   }
 }
 
@@ -137,7 +136,7 @@ TEST_F(DailyBalancesEntry, EachBasisTakesItsColumns) {
     if (basis.ledger) ComputeDays("cmdComputeLADB", 10, "1000");
     EXPECT_EQ(Text("txtIntAmt"), basis.interest);
     Calculate();
-    EXPECT_EQ(session.ComputedApy, basis.apy);
+    EXPECT_EQ(session.statement.result->apy, basis.apy);
     EXPECT_TRUE(IsEnabled("cmdDetail"));
     Click("cmdBack");
     InFront<StatementEntryWindow>();

@@ -88,7 +88,7 @@ class StatementWindows : public WindowTest {
 
   /// How often a report holds a text.
   int CountInReport(const char* file, const char* part) const {
-    QFile report(QString::fromStdString(session.AppDataFolder) + "/" + file);
+    QFile report(session.dataFolder / file);
     EXPECT_TRUE(report.open(QIODevice::ReadOnly)) << file;
     return static_cast<int>(report.readAll().count(part));
   }

@@ -50,7 +50,7 @@ TEST_F(TieredStatement, EveryDayEarnsByItsTiers) {
     ComputeTenDaysOf2000();
     EXPECT_EQ(Text("txtIntAmt"), c.interest);
     Calculate();
-    EXPECT_EQ(session.ComputedApy, c.apy);
+    EXPECT_EQ(session.statement.result->apy, c.apy);
     EXPECT_GE(CountInReport("Periodic_Statement_Report.html", "<TD>variable</TD>"), 1);
     EXPECT_TRUE(IsEnabled("cmdDetail"));
     Click("cmdAcct");
@@ -69,12 +69,12 @@ TEST_F(TieredStatement, BackKeepsTheTableAndAChangedOneEndsTheDetail) {
   EXPECT_EQ(Text("txtInt(2)"), "2");
   OpenPeriod();
   EXPECT_EQ(Text("txtIntAmt"), "0.82");
-  EXPECT_TRUE(session.DetailData);
+  EXPECT_NE(DetailOf(session.statement), nullptr);
   Click("cmdBack");
   InFront<TierTableWindow>();
   Type("txtInt(2)", "2.5");
   OpenPeriod();
-  EXPECT_FALSE(session.DetailData) << "the days were computed by another table";
+  EXPECT_EQ(DetailOf(session.statement), nullptr) << "the days were computed by another table";
 }
 
 TEST_F(TieredStatement, MainMenuOfTheTableLeavesNothingOfTheAccount) {

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "formulas/AnnualYield.h"
+
+namespace corvane {
+
+// The annual percentage yield that an account has to disclose (Regulation DD, Appendix A, Part I).
+// Each fails as InterestOfTerm does, and where the APY is not finite.
+
+/// A regular-rate account, or one tier by method A (Part I.A and Part I.D, method A).
+Outcome<Yield> RegularYield(const AccountTerms& terms, const Deposit& deposit);
+
+struct SteppedYield {
+  std::vector<double> interest;  ///< of each period, currency, unrounded
+  Yield whole;                   ///< of the whole term on the first balance
+};
+
+/// A stepped-rate account (Part I.B): the periods follow one another, the first starting on
+/// `balance`; their own balances are not read. What a period earns stays in the account and earns
+/// in the next one, except without compounding and where interest must be withdrawn. With
+/// compounding by years every year has 365 days.
+/// @param periods at least one
+Outcome<SteppedYield> SteppedYieldOf(const AccountTerms& terms, double balance,
+                                     std::span<const Deposit> periods);
+
+/// A deposit in an account tiered by method B (Part I.D): the part of the balance that lies in a
+/// tier earns the tier's rate. The year has 366 days when 29 February counts or the account has a
+/// 366-day year; by months, when the beginning year is divisible by 4.
+/// @param tiers lowest first, at least one
+/// @param reaching the whole deposit; its rate is not read
+Outcome<Yield> TieredYield(const AccountTerms& terms, std::span<const Tier> tiers,
+                           const Deposit& reaching);
+
+}  // namespace corvane

@@ -1,0 +1,157 @@
+#include "windows/frame/Routes.h"
+
+#include "disclosure/EntrySequence.h"
+#include "windows/disclosure/DisclosureEntryWindow.h"
+#include "windows/disclosure/DisclosureResultsWindow.h"
+#include "windows/disclosure/DisclosureSetupWindow.h"
+#include "windows/disclosure/TierTableWindow.h"
+#include "windows/frame/WindowRegistry.h"
+#include "windows/start/AboutWindow.h"
+#include "windows/start/DisclaimerWindow.h"
+#include "windows/start/MainMenu.h"
+#include "windows/statement/DailyBalancesWindow.h"
+#include "windows/statement/InterestReportWindow.h"
+#include "windows/statement/StatementEntryWindow.h"
+#include "windows/statement/StatementResultsWindow.h"
+#include "windows/statement/StatementSetupWindow.h"
+
+namespace corvane {
+
+template <class Window>
+void Routes::Go() {
+  windows_.CloseOtherMainWindows(windows_.Show<Window>());
+}
+
+Session& Routes::session() {
+  return windows_.session();
+}
+
+void Routes::ShowDisclaimer() {
+  Go<DisclaimerWindow>();
+}
+
+void Routes::LeaveDisclaimer() {
+  Go<MainMenu>();
+}
+
+void Routes::OpenAbout() {
+  windows_.Show<AboutWindow>();
+}
+
+void Routes::ShowAbout() {
+  windows_.RunModal(windows_.Get<AboutWindow>());
+}
+
+void Routes::StartDisclosure() {
+  session().workflow = Workflow::Disclosure;
+  session().disclosure = {};
+  Go<DisclosureSetupWindow>();
+}
+
+void Routes::StartStatement() {
+  session().workflow = Workflow::Statement;
+  session().statement = {};
+  session().statement.setup = StatementSetupAtStart();
+  Go<StatementSetupWindow>();
+}
+
+void Routes::ShowMainMenu() {
+  session().header = {};
+  session().disclosure = {};
+  session().statement = {};
+  Go<MainMenu>();
+}
+
+void Routes::ContinueDisclosureSetup() {
+  if (session().disclosure.setup.IsTiered()) return Go<TierTableWindow>();
+  Go<DisclosureEntryWindow>();
+}
+
+void Routes::BackFromDisclosureEntry() {
+  if (session().disclosure.setup.IsTiered()) return Go<TierTableWindow>();
+  Go<DisclosureSetupWindow>();
+}
+
+void Routes::ShowDisclosureResults() {
+  Go<DisclosureResultsWindow>();
+}
+
+void Routes::BackFromDisclosureResults() {
+  DisclosureCheck& check = session().disclosure;
+  check.completed = EntryBehindResults(check) - 1;
+  Go<DisclosureEntryWindow>();
+}
+
+void Routes::NewDisclosure() {
+  session().header = session().header.OfNextAccount();
+  // The next account of a bank is often set up like the last one.
+  DisclosureCheck next;
+  next.setup = session().disclosure.setup;
+  session().disclosure = next;
+  Go<DisclosureSetupWindow>();
+}
+
+void Routes::ShowMainMenuKeepingHeader() {
+  session().disclosure = {};
+  Go<MainMenu>();
+}
+
+void Routes::ContinueTierTable(const TierTable& tiers) {
+  if (session().workflow == Workflow::Statement) {
+    session().statement.tiers = tiers;
+    return Go<StatementEntryWindow>();
+  }
+  TakeTiers(session().disclosure, tiers);
+  Go<DisclosureEntryWindow>();
+}
+
+void Routes::BackFromTierTable(const TierTable& tiers) {
+  if (session().workflow == Workflow::Statement) {
+    session().statement.tiers = tiers;
+    return Go<StatementSetupWindow>();
+  }
+  TakeTiers(session().disclosure, tiers);
+  Go<DisclosureSetupWindow>();
+}
+
+void Routes::ContinueStatementSetup() {
+  if (IsTiered(session().statement.setup.kind)) return Go<TierTableWindow>();
+  Go<StatementEntryWindow>();
+}
+
+void Routes::BackFromStatementEntry() {
+  if (IsTiered(session().statement.setup.kind)) return Go<TierTableWindow>();
+  Go<StatementSetupWindow>();
+}
+
+std::optional<ComputedDays> Routes::EnterDays(DailyBalances& daily) {
+  auto& window = windows_.Get<DailyBalancesWindow>();
+  std::optional<ComputedDays> computed;
+  window.Edit(daily, computed);
+  windows_.RunModal(window);
+  return computed;
+}
+
+void Routes::ShowInterestReport(const DailyBalances& daily) {
+  auto& window = windows_.Get<InterestReportWindow>();
+  window.ShowDays(daily);
+  windows_.RunModal(window);
+}
+
+void Routes::ShowStatementResults() {
+  Go<StatementResultsWindow>();
+}
+
+void Routes::BackFromStatementResults() {
+  session().statement.result.reset();
+  session().statement.detail.reset();
+  Go<StatementEntryWindow>();
+}
+
+void Routes::NewStatement() {
+  session().header = session().header.OfNextAccount();
+  session().statement = NewStatementCheck();
+  Go<StatementSetupWindow>();
+}
+
+}  // namespace corvane

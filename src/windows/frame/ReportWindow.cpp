@@ -1,0 +1,72 @@
+#include "windows/frame/ReportWindow.h"
+
+#include <QtWidgets>
+
+#include "platform/MessageBox.h"
+#include "platform/ProgramFolder.h"
+#include "platform/SaveDialog.h"
+#include "platform/WebView.h"
+#include "reports/SaveName.h"
+#include "support/Paths.h"
+#include "support/WholeFile.h"
+#include "windows/frame/WindowRegistry.h"
+
+namespace corvane {
+
+namespace {
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString Text(const std::filesystem::path& path) {
+  return QString::fromStdString(PathText(path));
+}
+
+}  // namespace
+
+ReportWindow::ReportWindow(WindowRegistry& windows, Role role, const ReportNames& names)
+    : Form(windows, role), names_(names) {}
+
+void ReportWindow::PlaceView(QWidget* frame, const QString& viewName) {
+  view_ = new WebView(frame);
+  view_->setObjectName(viewName);
+  view_->setAccessibleName("Report");
+  frame->layout()->addWidget(view_);
+  auto* print = findChild<QPushButton*>("cmdPrint");
+  OnClick(print, [this] { Print(); });
+  OnMenu(findChild<QAction*>("mnuPrint"), [print] { print->click(); });
+  OnMenu(findChild<QAction*>("mnuSave"), [this] { SaveCopy(); });
+}
+
+void ReportWindow::BuildReport() {
+  const std::filesystem::path output = session().dataFolder / names_.outputName;
+  WrittenReport report = WriteReport(ProgramFolder() / names_.templateName, output, Content());
+  if (!report.text) view_->ShowNotice("No report was built.");
+  for (const Refusal& message : report.messages) Tell(message);
+  text_ = std::move(report.text);
+  if (text_) view_->ShowFile(Text(output));
+}
+
+void ReportWindow::Print() {
+  if (text_) view_->Print();
+}
+
+bool ReportWindow::MayReplace(const std::filesystem::path& chosen,
+                              const std::filesystem::path& path) {
+  if (!MustAskBeforeReplacing(chosen, path)) return true;
+  return AskYesNo(this, Text(path.filename()) + " already exists.\nDo you want to replace it?",
+                  "Save As");
+}
+
+void ReportWindow::SaveCopy() {
+  if (!text_) return;
+  const auto chosen = AskSavePath(this, {Text(names_.saveTitle), Text(session().dataFolder),
+                                         Text(names_.saveName), "HTML Files (*.htm *.html)"});
+  if (!chosen) return;
+  const std::filesystem::path asked = PathOf(chosen->toStdString());
+  const std::filesystem::path path = SavePathFor(asked);
+  if (MayReplace(asked, path)) WriteWholeFile(path, SavedText(*text_));
+}
+
+}  // namespace corvane

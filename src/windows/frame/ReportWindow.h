@@ -1,0 +1,36 @@
+#pragma once
+
+#include "reports/ReportFile.h"
+#include "windows/frame/Form.h"
+
+namespace corvane {
+
+class WebView;
+
+/// What the report windows share: build the report file, show it, print it, save a copy. Print and
+/// Save act on the report as it was built, and do nothing when none was.
+class ReportWindow : public Form {
+  Q_OBJECT
+
+ protected:
+  ReportWindow(WindowRegistry& windows, Role role, const ReportNames& names);
+
+  /// Puts the view into its frame and wires Print and Save, once the form has its controls.
+  void PlaceView(QWidget* frame, const QString& viewName);
+
+  /// What the report is filled with.
+  virtual ReportContent Content() = 0;
+  /// Fills the template, tells of unknown tags and failures, and shows the file.
+  void BuildReport();
+
+ private:
+  void Print();
+  void SaveCopy();
+  bool MayReplace(const std::filesystem::path& chosen, const std::filesystem::path& path);
+
+  ReportNames names_;
+  WebView* view_ = nullptr;
+  std::optional<std::string> text_;  ///< the report as it was built
+};
+
+}  // namespace corvane

@@ -1,0 +1,21 @@
+#include "platform/WorkArea.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane {
+namespace {
+
+TEST(WorkArea, CentersFromTheScreensCornerUnlessTheWindowDoesNotFit) {
+  const QRect area(40, 30, 1000, 700);
+  const struct {
+    QSize window;
+    QPoint place;
+  } cases[] = {{{520, 440}, {240, 130}},
+               {{1000, 700}, {0, 0}},
+               {{1001, 400}, {40, 30}},
+               {{600, 701}, {40, 30}}};
+  for (const auto& c : cases) EXPECT_EQ(CenteredPlace(area, c.window), c.place);
+}
+
+}  // namespace
+}  // namespace corvane
