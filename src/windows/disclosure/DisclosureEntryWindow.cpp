@@ -122,6 +122,8 @@ void DisclosureEntryWindow::ShowCaptions() {
   };
   for (const auto& [label, text] : labels) label->setText(QString::fromStdString(text));
   ui_->frmPeriodNumber->setTitle(QString::fromStdString(captions.frmPeriodNumber));
+  ui_->txtTerm->setToolTip(QString::fromStdString(captions.txtTermTip));
+  ui_->txtBtwnReqIntWdrwl->setToolTip(QString::fromStdString(captions.txtBtwnReqIntWdrwlTip));
 }
 
 void DisclosureEntryWindow::ShowGroups() {

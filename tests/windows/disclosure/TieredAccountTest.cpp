@@ -93,7 +93,7 @@ TEST_F(TieredAccount, TheTableRefusesWhatTheTiersCannotUse) {
     const char *box, *text, *message, *field, *left;
   } steps[] = {
       {"txt_bne(1)", "0", "Please input Interest Rate.", "txtInt(1)", ""},
-      {"txtInt(1)", "-", badRate, "txtInt(1)", ""},
+      {"txtInt(1)", "-5", badRate, "txtInt(1)", ""},
       {"txtInt(1)", "5", "Please enter deposit balance for Tier 1", "txt_bne(1)", ""},
       {"txt_bne(1)", "1000", noRate, "txtInt(2)", ""},
       {"txtInt(2)", "-", badRate, "txtInt(2)", ""},
@@ -118,7 +118,9 @@ TEST_F(TieredAccount, TheTableRefusesWhatTheTiersCannotUse) {
   EXPECT_EQ(Text("TxtAbove(3)"), "2000.00");
   ExpectText("Please input Interest Rate for Tier 2");
   Type("txtInt(2)", "");
+  Key(Qt::Key_Tab);
   EXPECT_EQ(Focus(), "txtInt(2)");
+  Keys("6");
 }
 
 TEST_F(TieredAccount, TheEntriesLastAsLongAsTheirTableAndTheTableAsTheAccount) {
