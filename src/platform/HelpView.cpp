@@ -1,6 +1,8 @@
 #include "platform/HelpView.h"
 
 #include <QBuffer>
+#include <QGuiApplication>
+#include <QPalette>
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
 #include <QWebEnginePage>
@@ -35,6 +37,19 @@ QByteArray TypeOf(const QString& name) {
   return name.endsWith(".css") ? "text/css" : "text/html";
 }
 
+/// The colours behind text as the desktop has them.
+QColor Paper() {
+  return QGuiApplication::palette().color(QPalette::Base);
+}
+
+/// The style sheet has its dark colours under a condition, but the browser does not know that the
+/// desktop is dark.
+QByteArray InTheColoursOfTheDesktop(QByteArray css) {
+  if (Paper().lightness() > 127) return css;
+  return css.replace("(prefers-color-scheme: dark)", "all")
+      .replace("color-scheme: light dark", "color-scheme: dark");
+}
+
 class OnlyTheBook : public QWebEngineUrlRequestInterceptor {
  public:
   void interceptRequest(QWebEngineUrlRequestInfo& request) override {
@@ -50,9 +65,10 @@ class BookHandler : public QWebEngineUrlSchemeHandler {
     const QString name = TopicOf(job->requestUrl());
     const QByteArray* bytes = book_.File(name);
     if (!bytes) return job->fail(QWebEngineUrlRequestJob::UrlNotFound);
+    const QByteArray type = TypeOf(name);
     auto* answer = new QBuffer(job);
-    answer->setData(*bytes);
-    job->reply(TypeOf(name), answer);
+    answer->setData(type == "text/css" ? InTheColoursOfTheDesktop(*bytes) : *bytes);
+    job->reply(type, answer);
   }
 
  private:
@@ -90,6 +106,7 @@ struct HelpView::Browser {
     profile.setUrlRequestInterceptor(&guard);
     profile.installUrlSchemeHandler(kScheme, &handler);
     SwitchOff(*page.settings());
+    page.setBackgroundColor(Paper());
     view.setPage(&page);
     view.setContextMenuPolicy(Qt::NoContextMenu);
   }

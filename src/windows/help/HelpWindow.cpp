@@ -91,6 +91,17 @@ void HelpWindow::AddContents(const std::vector<HelpEntry>& entries, QTreeWidgetI
   }
 }
 
+void HelpWindow::ChooseInContents(const QString& topic) {
+  const auto* chosen = ui_->treContents->currentItem();
+  // A heading may have the topic of its first entry: where neither was chosen, the entry it is.
+  if (chosen && chosen->data(0, kTopicRole) == topic) return;
+  QTreeWidgetItem* last = nullptr;
+  for (QTreeWidgetItemIterator item(ui_->treContents); *item; ++item) {
+    if ((*item)->data(0, kTopicRole) == topic) last = *item;
+  }
+  ui_->treContents->setCurrentItem(last);
+}
+
 void HelpWindow::cmdFind_Click() {
   ui_->lstFound->clear();
   for (const QString& topic : book_->Find(ui_->txtFind->text())) {
@@ -114,10 +125,7 @@ void HelpWindow::OpenFound(const QListWidgetItem* item) {
 void HelpWindow::TopicShown(const QString& topic) {
   ui_->cmdBack->setEnabled(view_->CanGoBack());
   ui_->cmdForward->setEnabled(view_->CanGoForward());
-  for (QTreeWidgetItemIterator item(ui_->treContents); *item; ++item) {
-    if ((*item)->data(0, kTopicRole) == topic) return ui_->treContents->setCurrentItem(*item);
-  }
-  ui_->treContents->setCurrentItem(nullptr);
+  ChooseInContents(topic);
 }
 
 }  // namespace corvane

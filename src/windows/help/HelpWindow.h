@@ -33,6 +33,7 @@ class HelpWindow : public Form {
   void BindKeys();
   void Read(HelpBook book);
   void AddContents(const std::vector<HelpEntry>& entries, QTreeWidgetItem* above);
+  void ChooseInContents(const QString& topic);
   void cmdFind_Click();
   void OpenFound(const QListWidgetItem* item);
   void TopicShown(const QString& topic);
