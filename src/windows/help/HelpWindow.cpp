@@ -123,6 +123,7 @@ void HelpWindow::OpenFound(const QListWidgetItem* item) {
 }
 
 void HelpWindow::TopicShown(const QString& topic) {
+  setWindowTitle(book_->TitleOf(topic) + " - " + kProgramTitle + " Help");
   ui_->cmdBack->setEnabled(view_->CanGoBack());
   ui_->cmdForward->setEnabled(view_->CanGoForward());
   ChooseInContents(topic);
