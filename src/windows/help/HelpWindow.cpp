@@ -12,7 +12,7 @@ namespace corvane {
 namespace {
 
 constexpr int kTopicRole = Qt::UserRole;
-constexpr int kContentsWidth = 250;
+constexpr int kContentsWidth = 290;
 
 /// The browser marks one text, so that of several words it is the longest, which tells most.
 QString LongestWord(const QString& text) {
@@ -68,12 +68,17 @@ std::optional<Refusal> HelpWindow::Open(const std::filesystem::path& file, int c
     }
     Read(std::get<HelpBook>(std::move(book)));
   }
-  // A modal window keeps all others from being used but those that belong to it.
-  create();
-  windowHandle()->setTransientParent(QGuiApplication::modalWindow());
+  // The desktop takes only a dialog for a part of another window; this also hides the window.
+  setWindowFlags((windowFlags() & ~Qt::WindowType_Mask) |
+                 (QGuiApplication::modalWindow() ? Qt::Dialog : Qt::Window));
   view_->ShowTopic(book_->TopicOf(context));
   view_->setFocus();
   return std::nullopt;
+}
+
+void HelpWindow::showEvent(QShowEvent* event) {
+  windowHandle()->setTransientParent(QGuiApplication::modalWindow());
+  Form::showEvent(event);
 }
 
 void HelpWindow::Read(HelpBook book) {

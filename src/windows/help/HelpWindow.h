@@ -29,6 +29,11 @@ class HelpWindow : public Form {
   /// Opens the help file, unless it is open, at the topic of a context number, or says why not.
   std::optional<Refusal> Open(const std::filesystem::path& file, int context);
 
+ protected:
+  /// A modal window keeps all others from being used but those that belong to it, as this one has
+  /// to when it is asked for from there.
+  void showEvent(QShowEvent* event) override;
+
  private:
   void BindKeys();
   void Read(HelpBook book);
