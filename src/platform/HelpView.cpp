@@ -1,5 +1,7 @@
 #include "platform/HelpView.h"
 
+#include <utility>
+
 #include <QBuffer>
 #include <QGuiApplication>
 #include <QPalette>
@@ -130,12 +132,20 @@ void HelpView::Read(const HelpBook& book) {
   layout()->addWidget(&browser_->view);
   setFocusProxy(&browser_->view);
   connect(&browser_->page, &QWebEnginePage::loadFinished, this, &HelpView::Loaded);
+  connect(&browser_->page, &QWebEnginePage::renderProcessTerminated, this, &HelpView::LoadAgain,
+          Qt::QueuedConnection);
 }
 
 void HelpView::ShowTopic(const QString& topic, const QString& marked) {
   marked_ = marked;
-  if (browser_->page.url() == UrlOf(topic)) return Loaded();
+  loadedAgain_ = false;
+  const bool isThere = browser_->page.renderProcessPid() != 0;
+  if (isThere && browser_->page.url() == UrlOf(topic)) return Loaded();
   browser_->page.load(UrlOf(topic));
+}
+
+void HelpView::LoadAgain() {
+  if (!std::exchange(loadedAgain_, true)) browser_->page.triggerAction(QWebEnginePage::Reload);
 }
 
 void HelpView::Loaded() {

@@ -37,9 +37,12 @@ class HelpView : public QWidget {
   struct Browser;
 
   void Loaded();
+  /// The browser's helper process has ended: once, the topic is loaded anew.
+  void LoadAgain();
 
   std::unique_ptr<Browser> browser_;
   QString marked_;
+  bool loadedAgain_ = false;
 };
 
 /// Makes the address of topics known to the browser; to be called before the application object is
