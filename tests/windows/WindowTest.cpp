@@ -44,6 +44,10 @@ void WindowTest::Activate() const {
 }
 
 void WindowTest::Type(const QString& field, const QString& text) {
+  if (auto* list = front_->findChild<QComboBox*>(field)) {
+    list->setFocus();
+    return QTest::keyClicks(list, text);
+  }
   auto* edit = Get<QLineEdit>(field);
   if (!edit) return;
   Activate();
@@ -68,7 +72,7 @@ void WindowTest::Key(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 void WindowTest::Click(const QString& button) {
-  auto* control = Get<QAbstractButton>(button);
+  auto* control = Get<QWidget>(button);
   if (!control) return;
   Activate();
   ASSERT_TRUE(control->isVisible() && control->isEnabled()) << button.toStdString();

@@ -36,10 +36,14 @@ class WindowTest : public ::testing::Test {
   AForm& InFront() {
     EXPECT_TRUE(QTest::qWaitFor([this] { return IsVisible<AForm>(); })) << "window is not shown";
     AForm& form = windows.Get<AForm>();
-    front_ = &form;
-    Activate();
+    StandIn(form);
     return form;
   }
+  void StandIn(Form& form) {
+    front_ = &form;
+    Activate();
+  }
+  Form* Front() const { return front_; }
 
   template <class AForm>
   bool IsVisible() const {
@@ -54,7 +58,8 @@ class WindowTest : public ::testing::Test {
     return control;
   }
 
-  /// Clicks into the field, selects what it holds and types the text over it, or deletes it.
+  /// Clicks into the field, selects what it holds and types the text over it, or deletes it;
+  /// from a list it picks by typing.
   void Type(const QString& field, const QString& text);
   /// Types into the control that has the focus.
   void Keys(const QString& text);
