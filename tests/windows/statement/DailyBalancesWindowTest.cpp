@@ -164,13 +164,17 @@ TEST_F(DailyBalancesEntry, ASteppedAccountsRatesAreTypedByDay) {
 }
 
 TEST_F(DailyBalancesEntry, DailyCompoundingReachesTheInterest) {
-  // 36.5 % a year is 0.1 % a day: 1,000,000 x (1.001 ^ 30 - 1); without compounding it were 30,000.
+  // 36.5 % a year is 0.1 % a day: 2,000,000 x (1.001 ^ 15 - 1) x 1.001 ^ 15; on the average of
+  // 1,000,000 it were 30,439.09 and without compounding 30,000.
   Click("cmdNext");
   InFront<StatementEntryWindow>();
-  EnterTerms("44.02", "36.5", "optDailyBal");
-  Type("txtLedgerdays", "30");
-  ComputeDays("cmdComputeLADB", 30, "1000000");
-  EXPECT_EQ(Text("txtIntAmt"), "30439.09");
+  EnterTerms("44.02", "36.5", "30", "optDailyBal");
+  Days("cmdComputeLADB", [this] {
+    TypeDays(15, "2000000");
+    TypeDays(15, "0");
+    Click("cmdContinue");
+  });
+  EXPECT_EQ(Text("txtIntAmt"), "30667.26");
 }
 
 }  // namespace
