@@ -15,13 +15,6 @@ std::size_t IndexOf(BalanceColumn column) {
   return static_cast<std::size_t>(column);
 }
 
-/// The days as they are kept: every rate worked out, and 0 for what was left empty.
-std::vector<DayEntry> KeptDays(DailyBalances daily) {
-  FillRates(daily);
-  for (DayEntry& day : daily.days) day = {day.balance.value_or(0), day.rate.value_or(0)};
-  return daily.days;
-}
-
 /// The average lies below a minimum daily balance that stands alone.
 bool LeavesInterestToBeTyped(const DailyBalances& daily, double averageBalance) {
   const StatementAccount& account = daily.account;
@@ -119,8 +112,7 @@ DailyBalances DaysOf(const StatementCheck& check, BalanceColumn column, const Da
 void FinishCompute(StatementCheck& check, const DailyBalances& daily,
                    const ComputedDays& computed) {
   check.detail = {daily, computed.averageBalance};
-  check.detail->daily.days = KeptDays(daily);
-  check.days[IndexOf(daily.column)] = check.detail->daily.days;
+  check.days[IndexOf(daily.column)] = daily.days;
   check.entry.Average(daily.column).text = FormatFixed2(computed.averageBalance);
   if (!computed.interest) return;
   const bool typed = LeavesInterestToBeTyped(daily, computed.averageBalance);
