@@ -86,6 +86,13 @@ StatementAccount AccountOf(const StatementCheck& check) {
   return account;
 }
 
+void FollowChanges(StatementCheck& check) {
+  RecountPeriod(check.setup.year, check.entry);
+  Field& interest = check.entry.txtIntAmt;
+  if (!interest.workedOut) return;
+  interest.text = check.handed.account == AccountOf(check) ? check.handed.text : "";
+}
+
 CheckOutcome StartCompute(StatementCheck& check, BalanceColumn column) {
   CheckOutcome outcome = CheckEntries(check);
   if (!outcome.refusal) outcome.refusal = CheckBeforeCompute(check);
@@ -115,8 +122,10 @@ void FinishCompute(StatementCheck& check, const DailyBalances& daily,
   check.days[IndexOf(daily.column)] = daily.days;
   check.entry.Average(daily.column).text = FormatFixed2(computed.averageBalance);
   if (!computed.interest) return;
-  const bool typed = LeavesInterestToBeTyped(daily, computed.averageBalance);
-  check.entry.txtIntAmt.text = typed ? "" : FormatFixed2(*computed.interest);
+  check.handed = {daily.account, FormatFixed2(*computed.interest)};
+  Field& interest = check.entry.txtIntAmt;
+  interest.workedOut = !LeavesInterestToBeTyped(daily, computed.averageBalance);
+  interest.text = interest.workedOut ? check.handed.text : "";
 }
 
 StatementCheck CancelledCompute(StatementCheck before, const DailyBalances& opened) {

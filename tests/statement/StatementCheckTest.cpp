@@ -58,7 +58,7 @@ TEST_F(StatementCheckTest, TheLedgerAverageLeavesTheCollectedInterestAlone) {
 
 TEST_F(StatementCheckTest, ACancelLeavesTheFiguresAndTheDetailOfDaysThatFit) {
   Compute(Ledger, "1000");
-  entry.txtIntAmt.text = "7.77";
+  entry.txtIntAmt = {"7.77"};
   const auto cancelled = [this] {
     const StatementCheck before = *this;
     return CancelledCompute(before, OpenAndType(Ledger, "5"));
@@ -99,10 +99,17 @@ TEST_F(StatementCheckTest, ASteppedAccountRefusesAMinimumAdbAlone) {
             "Please try again @ txtMinADB");
 }
 
-TEST_F(StatementCheckTest, ShowDetailNeedsTheDaysOfTheFiguresInUse) {
-  const std::pair<const char*, void (*)(StatementCheck&)> changes[] = {
-      {"average", [](auto& c) { c.entry.txtADBLedgerBalance.text = "1000.01"; }},
-      {"days", [](auto& c) { c.entry.txtLedgerdays.text = "31"; }},
+TEST_F(StatementCheckTest, InterestAndDetailNeedTheDaysOfTheFiguresInUse) {
+  const struct {
+    const char* what;
+    void (*change)(StatementCheck&);
+    const char* interest = "";
+    const char* note = "terms changed: compute or enter again";
+  } changes[] = {
+      {"average", [](auto& c) { c.entry.txtADBLedgerBalance.text = "1000.01"; }, "3.00", ""},
+      {"days", [](auto& c) { c.entry.txtLedgerdays.text = "31"; }, "3.00", ""},
+      {"typed", [](auto& c) { c.entry.txtMinADB.text = "1", c.entry.txtIntAmt = {"7.77"}; }, "7.77",
+       ""},
       {"rate", [](auto& c) { c.entry.txtIntRate.text = "3.66"; }},
       {"factor", [](auto& c) { c.entry.txtDRFactor.text = "1/360"; }},
       {"minimum", [](auto& c) { c.entry.txtMinADB.text = "1"; }},
@@ -116,10 +123,13 @@ TEST_F(StatementCheckTest, ShowDetailNeedsTheDaysOfTheFiguresInUse) {
   EXPECT_EQ(Calculated(), "");
   ASSERT_TRUE(DetailOf(*this));
   EXPECT_EQ(DetailOf(*this)->daily.start, ParseDate("01-01-2024"));
-  for (const auto& [what, change] : changes) {
+  for (const auto& row : changes) {
     StatementCheck changed = *this;
-    change(changed);
-    EXPECT_FALSE(DetailOf(changed)) << what;
+    row.change(changed);
+    FollowChanges(changed);
+    EXPECT_FALSE(DetailOf(changed)) << row.what;
+    EXPECT_EQ(changed.entry.txtIntAmt.text, row.interest) << row.what;
+    EXPECT_EQ(InterestNoteText(changed.entry), row.note) << row.what;
   }
   ChooseLedgerEqualsCollected(entry, false);
   entry.txtLedgerdays.text = "30";

@@ -41,6 +41,17 @@ TEST_F(DailyBalancesEntry, TheWholeWayFromTypedDaysToTheInterestReport) {
   InFront<StatementEntryWindow>();
   Calculate();
   EXPECT_FALSE(IsEnabled("cmdDetail")) << "the detail ended with Back";
+  Click("cmdBack");
+  InFront<StatementEntryWindow>();
+  EXPECT_FALSE(IsShown("lblIntNote"));
+  Type("txtIntRate", "6");
+  EXPECT_EQ(Caption("lblIntNote"), "terms changed: compute or enter again");
+  EXPECT_TRUE(IsShown("lblIntNote"));
+  CalculateRefused("Please enter a valid interest for ADB Method", "txtIntAmt");
+  Type("txtIntAmt", "5.25");
+  Choose("optDailyBal");
+  EXPECT_EQ(Text("txtIntAmt"), "5.25") << "typed interest stays";
+  EXPECT_FALSE(IsShown("lblIntNote"));
 }
 
 TEST_F(DailyBalancesEntry, TheInterestReportOf31DaysHas11Rows) {
