@@ -202,7 +202,10 @@ class Walk : public WindowTest {
       if (!above || above == below) return;
       opened.stop();
       const auto begin = std::exchange(next, std::find_if(next + 1, block.end(), IsIn));
+      // What was announced before the act comes when the window has closed.
+      const auto announced = std::exchange(boxes, {});
       Run({begin, next});
+      boxes.insert(boxes.end(), announced.begin(), announced.end());
       if (next != block.end() && !HasFailure()) opened.start();
       if (!above || !above->isVisible()) return;
       ADD_FAILURE() << above->objectName().toStdString() << " stays open";

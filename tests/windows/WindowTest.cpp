@@ -13,7 +13,7 @@ void WindowTest::SetUp() {
 }
 
 void WindowTest::TearDown() {
-  for (const ExpectedBox& box : expected_) ADD_FAILURE() << "box never shown: " << box.text;
+  for (const ExpectedBox& box : boxes) ADD_FAILURE() << "box never shown: " << box.text;
   SetMessageBoxObserver({});
   SetSaveAnswer({});
   SetToday({});
@@ -21,13 +21,13 @@ void WindowTest::TearDown() {
 
 void WindowTest::Answer(QMessageBox& box) {
   const std::string text = box.text().toStdString();
-  if (expected_.empty()) {
+  if (boxes.empty()) {
     ADD_FAILURE() << "unexpected box: " << text;
     box.reject();
     return;
   }
-  const ExpectedBox expected = expected_.front();
-  expected_.pop_front();
+  const ExpectedBox expected = boxes.front();
+  boxes.pop_front();
   EXPECT_EQ(text, expected.text);
   EXPECT_EQ(box.windowTitle().toStdString(), expected.title) << text;
   const auto icon = expected.icon == MessageIcon::None ? QMessageBox::NoIcon : QMessageBox::Warning;

@@ -28,7 +28,7 @@ class WindowTest : public ::testing::Test {
   void TearDown() override;
 
   /// The boxes that the following acts will raise, in order.
-  void Expect(ExpectedBox box) { expected_.push_back(std::move(box)); }
+  void Expect(ExpectedBox box) { boxes.push_back(std::move(box)); }
   void ExpectText(const std::string& text) { Expect({.text = text}); }
 
   /// Makes the form the one that the following acts are done in, waiting until it is in front.
@@ -80,7 +80,7 @@ class WindowTest : public ::testing::Test {
   }
   /// Waits for the boxes that an access key raises, because its button first shows itself pressed.
   void AwaitBoxes() {
-    EXPECT_TRUE(QTest::qWaitFor([this] { return expected_.empty(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return boxes.empty(); }));
   }
   /// Closes the window in front by its frame.
   void CloseByFrame() { front_->close(); }
@@ -95,6 +95,7 @@ class WindowTest : public ::testing::Test {
 
   Session session;
   WindowRegistry windows{session};
+  std::deque<ExpectedBox> boxes;  ///< that are expected and have not come
 
  private:
   void Answer(QMessageBox& box);
@@ -103,7 +104,6 @@ class WindowTest : public ::testing::Test {
   void Activate() const;
 
   QPointer<Form> front_;
-  std::deque<ExpectedBox> expected_;
 };
 
 }  // namespace corvane

@@ -6,31 +6,10 @@ namespace {
 
 class EntryWindow : public DisclosureTest {};
 
-TEST_F(EntryWindow, TheCalendarPicksByKeysAndByMouse) {
+TEST_F(EntryWindow, TheCalendarPicksByMouse) {
   Continue("optICDays");
-  const auto pick = [this](const char* image, std::function<void()> there) {
-    WhenShown<CalendarPopup>(std::move(there));
-    GoTo<DisclosureEntryWindow>(image);
-  };
-  ExpectText("Starting Date is invalid, Please correct");
-  pick("ImgCalendar(1)", [this] {
-    EXPECT_EQ(Caption("lblMonth"), "March 2026") << "today's";
-    Key(Qt::Key_Right);
-    Key(Qt::Key_Escape);
-  });
-  EXPECT_EQ(Text("tEndDate"), "__-__-____") << "Escape alone picks nothing";
-  EXPECT_EQ(Focus(), "tStartDate");
-  Type("tStartDate", "01-31-2024");
-  pick("ImgCalendar(0)", [this] {
-    for (int key : {Qt::Key_PageDown, Qt::Key_Down, Qt::Key_Right, Qt::Key_Up, Qt::Key_Left,
-                    Qt::Key_PageUp, Qt::Key_PageUp, Qt::Key_Return}) {
-      Key(key);
-    }
-    EXPECT_TRUE(IsVisible<CalendarPopup>()) << "Enter keeps it open";
-    Key(Qt::Key_Escape);
-  });
-  EXPECT_EQ(Text("tStartDate"), "12-29-2023") << "31 January, 29 February, 29 December";
-  pick("ImgCalendar(1)", [this] {
+  Enter("tStartDate=12-29-2023");
+  WhenShown<CalendarPopup>([this] {
     for (const char* label :
          {"lblNext", "lblNext", "lblNext", "LabelPrevYear", "lblPrev", "LabelNextYear"}) {
       QTest::mouseClick(Get<QLabel>(label), Qt::LeftButton);
@@ -45,9 +24,10 @@ TEST_F(EntryWindow, TheCalendarPicksByKeysAndByMouse) {
     QTest::mouseClick(month, Qt::LeftButton, {}, monday);
     QTest::mouseDClick(month, Qt::LeftButton, {}, monday);
   });
+  GoTo<DisclosureEntryWindow>("ImgCalendar(1)");
   EXPECT_EQ(Text("tEndDate"), "06-01-2026");
   EXPECT_EQ(Text("txtTerm"), "884") << "885 days from 29 December 2023, less 29 February 2024";
-  EXPECT_FALSE(IsEnabled("ImgCalendar(0)"));
+  EXPECT_TRUE(IsEnabled("ImgCalendar(0)")) << "the dates can be corrected";
   CloseByFrame();
   EXPECT_TRUE(windows.HasEnded()) << "also right after a date was picked";
 }
