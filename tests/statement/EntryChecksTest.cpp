@@ -84,63 +84,69 @@ TEST(StatementEntryChecks, MinimumBalancesSuitTheAccountAndTheMethod) {
   }
 }
 
-TEST(StatementEntryChecks, TheDatesGiveTheDaysOfThePeriod) {
+TEST(StatementEntryChecks, TheDatesRuleTheDaysOfThePeriod) {
   using enum PeriodCaller;
+  const char* empty = "__-__-____";
   const std::string length =
       "Number of valid days must be between 1 and 96, Please adjust @ txtDateStart";
+  const std::string noEnd = "Ending Date is invalid, Please correct @ txtDateEnd";
   const struct {
-    const char *start, *end;
-    bool countLeapDay;
+    const char *typed, *start, *end;  ///< the days typed, nullptr where those before stay
     PeriodCaller caller;
-    std::string expected;  ///< the days, or the refusal
-  } cases[] = {
-      {"02-01-2024", "03-01-2024", false, Button, "28"},
-      {"01-01-2024", "04-06-2024", true, Button, "96"},
-      {"01-01-2024", "04-07-2024", true, Calendar, length},
-      {"01-01-2024", "01-01-2024", true, Button, length},
-      {"01-02-2024", "01-01-2024", true, DaysField,
+    bool countLeapDay;
+    std::string days, told;
+  } steps[] = {
+      {" 0 ", "02-01-2024", "03-01-2024", Button, false, "28", ""},
+      {"0", "01-01-2024", "04-06-2024", Button, true, "96", ""},
+      {"0", "01-01-2024", "04-07-2024", Calendar, true, "0", length},
+      {"0", "01-01-2024", "01-01-2024", Button, true, "0", length},
+      {"0", "01-02-2024", "01-01-2024", DaysField, true, "0",
        "Number of days may not exceed 96, Please adjust @ txtDateStart"},
-      {"__-__-____", "01-31-2024", true, Button,
+      {"0", empty, "01-31-2024", Button, true, "0",
        "Starting Date is invalid, Please correct @ txtDateStart"},
-      {"01-01-2024", "02-30-2024", true, Calendar,
-       "Ending Date is invalid, Please correct @ txtDateEnd"},
-      {"01-01-2024", "1_-31-2024", true, DaysField,
+      {"0", "01-01-2024", "02-30-2024", Calendar, true, "0", noEnd},
+      {"0", "01-01-2024", "1_-31-2024", DaysField, true, "0",
        "Ending Date Date is invalid, Please correct @ txtDateEnd"},
+      {"30", "01-01-2024", "03-28-2024", Calendar, true, "30",
+       "The dates count 87 days; the entry is 30. @ "},
+      {nullptr, "01-01-2024", "03-2_-2024", Button, true, "30", noEnd},
+      {nullptr, "01-01-2024", empty, Button, true, "30", ""},
+      {"", "01-01-2024", "02-01-2024", Button, true, "",
+       "The dates count 31 days; the entry is 0. @ "},
+      {nullptr, "01-01-2024", "02-01-2024", Calendar, true, "31", ""},
+      {nullptr, "01-01-2024", "03-01-2024", DaysField, false, "59", ""},
+      {nullptr, "01-01-2024", "03-0_-2024", Button, true, "", noEnd},
+      {nullptr, "01-01-2024", "03-01-2024", DaysField, true, "60", ""},
+      {nullptr, "01-01-2024", "06-01-2024", Button, true, "", length},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::string(c.start) + " to " + c.end);
-    Entry entry;
-    entry.txtDateStart.text = c.start;
-    entry.txtDateEnd.text = c.end;
-    entry.txtLedgerdays.text = "0";
-    entry.txtColDays = {.text = " 0 ", .enabled = true};
-    const auto refusal =
-        CountPeriod({.days = 365, .countsLeapDay = c.countLeapDay}, entry, c.caller);
-    EXPECT_EQ(refusal ? Told(refusal) : entry.txtLedgerdays.text, c.expected);
-    EXPECT_EQ(entry.txtColDays.text, refusal ? " 0 " : c.expected);
-    const bool tooLong = refusal && refusal->text.starts_with("Number");
-    EXPECT_EQ(entry.txtDateStart.text, tooLong ? kEmptyDateMask : c.start);
+  Entry entry;
+  entry.txtColDays.enabled = true;
+  for (const auto& step : steps) {
+    SCOPED_TRACE(std::string(step.start) + " to " + step.end);
+    const YearRule year = {.days = 365, .countsLeapDay = step.countLeapDay};
+    if (step.typed) entry.txtLedgerdays = entry.txtColDays = {step.typed};
+    entry.txtDateStart.text = step.start;
+    entry.txtDateEnd.text = step.end;
+    RecountPeriod(year, entry);
+    const auto refusal = CountPeriod(year, entry, step.caller);
+    EXPECT_EQ(Told(refusal ? refusal : DaysNotice(year, entry)), step.told);
+    for (const Field& days : {entry.txtLedgerdays, entry.txtColDays}) {
+      EXPECT_EQ(days.text, step.days);
+    }
+    const bool noPeriod = refusal && refusal->text.starts_with("Number");
+    EXPECT_EQ(entry.txtDateStart.text, noPeriod ? empty : step.start);
   }
 }
 
-TEST(StatementEntryChecks, AnEmptyDaysFieldIsTheCalendarsAndAnEmptyStartToday) {
+TEST(StatementEntryChecks, TheCalendarAsksForTheEmptyDatesAndAnEmptyStartIsToday) {
   Entry entry;
-  entry.txtLedgerdays.text = "30";
-  const auto daysAfter = [&entry](PeriodCaller caller) {
-    EXPECT_EQ(Told(CountPeriod({}, entry, caller)), "");
-    return entry.txtLedgerdays.text;
-  };
   const Date today = *ParseDate("05-06-2025");
   EXPECT_EQ(PeriodStart(entry, today), today);
-  EXPECT_EQ(daysAfter(PeriodCaller::Calendar), "30") << "typed days stay";
   entry.txtDateStart.text = "01-01-2024";
   EXPECT_EQ(PeriodStart(entry, today), ParseDate("01-01-2024"));
   EXPECT_TRUE(!DatesForCalendar(entry).start && DatesForCalendar(entry).end);
   entry.txtDateEnd.text = "02-01-2024";
   EXPECT_TRUE(DatesForCalendar(entry).start && DatesForCalendar(entry).end);
-  entry.txtLedgerdays.text = "";
-  EXPECT_EQ(daysAfter(PeriodCaller::Button), "");
-  EXPECT_EQ(daysAfter(PeriodCaller::Calendar), "31");
 }
 
 TEST(StatementEntryChecks, TheFactorIsReadOnceItCanBeWhole) {

@@ -31,7 +31,7 @@ class StatementCheckTest : public ::testing::Test, protected EntryExample {
   /// Balance and rate that the daily window shows for the first day.
   std::string Reopened(BalanceColumn column, const char* period = "30") {
     entry.txtLedgerdays.text = period;
-    const DayTexts first = TextsOfDay(Open(column), 0);
+    const DayEntry first = Open(column).days.at(0);
     return first.balance + " " + first.rate;
   }
 };
@@ -58,7 +58,7 @@ TEST_F(StatementCheckTest, TheLedgerAverageLeavesTheCollectedInterestAlone) {
 
 TEST_F(StatementCheckTest, ACancelLeavesTheFiguresAndTheDetailOfDaysThatFit) {
   Compute(Ledger, "1000");
-  entry.txtIntAmt.text = "7.77";
+  entry.txtIntAmt = {"7.77"};
   const auto cancelled = [this] {
     const StatementCheck before = *this;
     return CancelledCompute(before, OpenAndType(Ledger, "5"));
@@ -66,7 +66,7 @@ TEST_F(StatementCheckTest, ACancelLeavesTheFiguresAndTheDetailOfDaysThatFit) {
   StatementCheck after = cancelled();
   EXPECT_EQ(after.entry.txtIntAmt.text, "7.77");
   ASSERT_TRUE(DetailOf(after));
-  EXPECT_EQ(after.detail->daily.days[29].balance, 1000);
+  EXPECT_EQ(after.detail->daily.days[29].balance, "1000.00");
   entry.txtLedgerdays.text = "0";
   entry.txtDateStart.text = "01-01-2024";
   entry.txtDateEnd.text = "02-01-2024";
@@ -81,7 +81,7 @@ TEST_F(StatementCheckTest, TheDaysComeBackUntilTheirNumberChanges) {
   EXPECT_EQ(Reopened(Ledger), "1000.00 7.30");
   EXPECT_EQ(Reopened(Ledger, "29"), " ");
   Compute(Ledger, "");
-  EXPECT_EQ(Reopened(Ledger, "29"), "0.00 7.30") << "what was left empty counted as 0";
+  EXPECT_EQ(Reopened(Ledger, "29"), " 7.30") << "what was left empty is no 0";
 }
 
 TEST_F(StatementCheckTest, ASteppedAccountRefusesAMinimumAdbAlone) {
@@ -99,10 +99,17 @@ TEST_F(StatementCheckTest, ASteppedAccountRefusesAMinimumAdbAlone) {
             "Please try again @ txtMinADB");
 }
 
-TEST_F(StatementCheckTest, ShowDetailNeedsTheDaysOfTheFiguresInUse) {
-  const std::pair<const char*, void (*)(StatementCheck&)> changes[] = {
-      {"average", [](auto& c) { c.entry.txtADBLedgerBalance.text = "1000.01"; }},
-      {"days", [](auto& c) { c.entry.txtLedgerdays.text = "31"; }},
+TEST_F(StatementCheckTest, InterestAndDetailNeedTheDaysOfTheFiguresInUse) {
+  const struct {
+    const char* what;
+    void (*change)(StatementCheck&);
+    const char* interest = "";
+    const char* note = "terms changed: compute or enter again";
+  } changes[] = {
+      {"average", [](auto& c) { c.entry.txtADBLedgerBalance.text = "1000.01"; }, "3.00", ""},
+      {"days", [](auto& c) { c.entry.txtLedgerdays.text = "31"; }, "3.00", ""},
+      {"typed", [](auto& c) { c.entry.txtMinADB.text = "1", c.entry.txtIntAmt = {"7.77"}; }, "7.77",
+       ""},
       {"rate", [](auto& c) { c.entry.txtIntRate.text = "3.66"; }},
       {"factor", [](auto& c) { c.entry.txtDRFactor.text = "1/360"; }},
       {"minimum", [](auto& c) { c.entry.txtMinADB.text = "1"; }},
@@ -116,10 +123,13 @@ TEST_F(StatementCheckTest, ShowDetailNeedsTheDaysOfTheFiguresInUse) {
   EXPECT_EQ(Calculated(), "");
   ASSERT_TRUE(DetailOf(*this));
   EXPECT_EQ(DetailOf(*this)->daily.start, ParseDate("01-01-2024"));
-  for (const auto& [what, change] : changes) {
+  for (const auto& row : changes) {
     StatementCheck changed = *this;
-    change(changed);
-    EXPECT_FALSE(DetailOf(changed)) << what;
+    row.change(changed);
+    FollowChanges(changed);
+    EXPECT_FALSE(DetailOf(changed)) << row.what;
+    EXPECT_EQ(changed.entry.txtIntAmt.text, row.interest) << row.what;
+    EXPECT_EQ(InterestNoteText(changed.entry), row.note) << row.what;
   }
   ChooseLedgerEqualsCollected(entry, false);
   entry.txtLedgerdays.text = "30";
@@ -129,9 +139,30 @@ TEST_F(StatementCheckTest, ShowDetailNeedsTheDaysOfTheFiguresInUse) {
 
 TEST_F(StatementCheckTest, ARateFollowsItsBalance) {
   DailyBalances daily = Open(Ledger);
-  EXPECT_EQ(EnterBalance(daily, 0, "-5").rate, "3.65");
-  EXPECT_EQ(EnterBalance(daily, 0, "0").rate, "") << "a zero balance shows no rate";
-  EXPECT_EQ(EnterBalance(daily, 0, "-").balance, "-") << "left as typed";
+  for (const auto& [typed, row] : {std::pair{"-5", "-5.00 3.65"}, {"0", "0.00 "}, {"-", "- "}}) {
+    EnterBalance(daily, 0, typed);
+    EXPECT_EQ(daily.days[0].balance + " " + daily.days[0].rate, row);
+  }
+}
+
+TEST_F(StatementCheckTest, APageIsLeftWithNumbersOnlyAndEmptyDaysAreAskedAbout) {
+  Become(AccountKind::Stepped);
+  entry.txtLedgerdays.text = "40";
+  DailyBalances daily = Open(Ledger);
+  const std::string noBalance = "Please enter a valid balance for Apr 18. @ txtDayBal(1)";
+  const std::string noRate = "Please enter a valid rate for Apr 18. @ txtRate(1)";
+  for (const auto& [row, told] : {std::pair{DayEntry{"-", "x"}, noBalance},
+                                  {{"1,000", ""}, noBalance},
+                                  {{"", "."}, noRate},
+                                  {{"5", "-1"}, noRate},
+                                  {{"-5", "0"}, ""}}) {
+    TakeDay(daily, 34, row);
+    EXPECT_EQ(Told(CheckPage(daily, 2)), told);
+    EXPECT_EQ(Told(CheckPage(daily, 1)), "") << "another page";
+  }
+  EXPECT_EQ(EmptyDaysQuestion(daily),
+            "39 of 40 days have no balance and count as 0. Compute the average all the same?");
+  EXPECT_EQ(EmptyDaysQuestion(OpenAndType(Ledger, "0")), std::nullopt);
 }
 
 TEST_F(StatementCheckTest, BalancesBeyondAnyNumberAreRefused) {

@@ -35,7 +35,7 @@ TEST_F(TieredAccount, MethodAComputesEveryTierOnItsOwnBalance) {
   EXPECT_EQ(Caption("lblPeriodNumber"), "Tier No. 1");
   EXPECT_EQ(Text("txtTierPerNum"), "3");
   EXPECT_FALSE(IsEnabled("txtIntRateA"));
-  Type("txtTerm", "365");
+  Enter("tStartDate=01-01-2023 tEndDate=01-01-2024");
   ExpectText("Please enter a valid Principal Balance Amount");
   NextTier("", "5.39");
   EXPECT_EQ(Focus(), "txtBal");

@@ -10,6 +10,10 @@ class DailyBalancesEntry : public StatementWindows {
     Expect({"Any data you have entered will be lost. Are you sure you want to close this window?",
             kProgramTitle, MessageIcon::None, answer});
   }
+  void ExpectQuestion(const std::string& emptyOfAll, QMessageBox::StandardButton answer) {
+    Expect({emptyOfAll + " days have no balance and count as 0. Compute the average all the same?",
+            kProgramTitle, MessageIcon::None, answer});
+  }
 };
 
 constexpr const char* kDays = "Interest_Report.html";
@@ -37,6 +41,17 @@ TEST_F(DailyBalancesEntry, TheWholeWayFromTypedDaysToTheInterestReport) {
   InFront<StatementEntryWindow>();
   Calculate();
   EXPECT_FALSE(IsEnabled("cmdDetail")) << "the detail ended with Back";
+  Click("cmdBack");
+  InFront<StatementEntryWindow>();
+  EXPECT_FALSE(IsShown("lblIntNote"));
+  Type("txtIntRate", "6");
+  EXPECT_EQ(Caption("lblIntNote"), "terms changed: compute or enter again");
+  EXPECT_TRUE(IsShown("lblIntNote"));
+  CalculateRefused("Please enter a valid interest for ADB Method", "txtIntAmt");
+  Type("txtIntAmt", "5.25");
+  Choose("optDailyBal");
+  EXPECT_EQ(Text("txtIntAmt"), "5.25") << "typed interest stays";
+  EXPECT_FALSE(IsShown("lblIntNote"));
 }
 
 TEST_F(DailyBalancesEntry, TheInterestReportOf31DaysHas11Rows) {
@@ -47,8 +62,18 @@ TEST_F(DailyBalancesEntry, TheInterestReportOf31DaysHas11Rows) {
   Days("cmdComputeLADB", [this] {
     Keys("1234.5");
     Type("txtDayBal(30)", "-99");
+    Type("txtDayBal(1)", "-");
+    for (const char* leaving : {"cmdPrint", "cmdContinue"}) {
+      ExpectText("Please enter a valid balance for Jan 2.");
+      Click(leaving);
+      EXPECT_EQ(Focus(), "txtDayBal(1)");
+    }
+    Keys("0");
     ClickInto<InterestReportWindow>("cmdPrint", [this] { CloseByFrame(); });
     InFront<DailyBalancesWindow>();
+    ExpectQuestion("28 of 31", QMessageBox::No);
+    Click("cmdContinue");
+    ExpectQuestion("28 of 31", QMessageBox::Yes);
     Click("cmdContinue");
   });
   EXPECT_EQ(CountInReport(kDays, "<TR align=center>"), 11);
@@ -71,16 +96,26 @@ TEST_F(DailyBalancesEntry, ThirtyThreeDaysStandOnAPage) {
     Type("txtLedgerdays", row.days);
     Days("cmdComputeLADB", [this, &row] {
       Keys("100");
-      for (int page = 1; page < row.pages; ++page) Click("cmdNext");
-      EXPECT_FALSE(IsEnabled("cmdNext"));
+      ShowLastPage();
       const QString last = QString::number(row.lastRow);
       EXPECT_EQ(Caption("lblDay(" + last + ")"), row.lastDay);
       Type("txtDayBal(" + last + ")", "700");
       for (int page = row.pages; page > 1; --page) Click("cmdPrevious");
       EXPECT_EQ(Text("txtDayBal(0)"), "100.00");
+      ExpectQuestion(std::to_string(std::stoi(row.days) - 2) + " of " + row.days, QMessageBox::Yes);
       Click("cmdContinue");
     });
     EXPECT_NEAR(std::stod(Text("txtADBLedgerBalance")), 800 / std::stod(row.days), 0.005);
+    Days("cmdComputeLADB", [this, &row] {
+      EXPECT_EQ(Text("txtDayBal(0)"), "100.00") << "handed back";
+      ShowLastPage();
+      Keys("1000");
+      Click("cmdClear");
+      EXPECT_EQ(Text("txtDayBal(0)") + Text("txtRate(0)"), "");
+      ExpectQuestion(std::string(row.days) + " of " + row.days, QMessageBox::Yes);
+      Click("cmdContinue");
+    });
+    EXPECT_EQ(Text("txtADBLedgerBalance"), "0.00") << "cleared on page " << row.pages;
   }
 }
 
@@ -98,14 +133,6 @@ TEST_F(DailyBalancesEntry, TheFrameCancelsAndOnlyThat) {
     CloseByFrame();
   });
   EXPECT_EQ(Text("txtADBLedgerBalance") + " " + Text("txtIntAmt"), "777.00 3.21");
-  ComputeDays("cmdComputeLADB", 2, "1000");
-  Days("cmdComputeLADB", [this] {
-    EXPECT_EQ(Text("txtDayBal(0)"), "1000.00");
-    Click("cmdClear");
-    EXPECT_EQ(Text("txtDayBal(0)") + Text("txtRate(0)"), "");
-    Click("cmdContinue");
-  });
-  EXPECT_EQ(Text("txtADBLedgerBalance"), "0.00");
 }
 
 /// A balance basis: the choices that make it, which columns take an entry, and what comes of ten
@@ -164,13 +191,17 @@ TEST_F(DailyBalancesEntry, ASteppedAccountsRatesAreTypedByDay) {
 }
 
 TEST_F(DailyBalancesEntry, DailyCompoundingReachesTheInterest) {
-  // 36.5 % a year is 0.1 % a day: 1,000,000 x (1.001 ^ 30 - 1); without compounding it were 30,000.
+  // 36.5 % a year is 0.1 % a day: 2,000,000 x (1.001 ^ 15 - 1) x 1.001 ^ 15; on the average of
+  // 1,000,000 it were 30,439.09 and without compounding 30,000.
   Click("cmdNext");
   InFront<StatementEntryWindow>();
-  EnterTerms("44.02", "36.5", "optDailyBal");
-  Type("txtLedgerdays", "30");
-  ComputeDays("cmdComputeLADB", 30, "1000000");
-  EXPECT_EQ(Text("txtIntAmt"), "30439.09");
+  EnterTerms("44.02", "36.5", "30", "optDailyBal");
+  Days("cmdComputeLADB", [this] {
+    TypeDays(15, "2000000");
+    TypeDays(15, "0");
+    Click("cmdContinue");
+  });
+  EXPECT_EQ(Text("txtIntAmt"), "30667.26");
 }
 
 }  // namespace

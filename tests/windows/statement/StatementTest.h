@@ -64,6 +64,10 @@ class StatementWindows : public WindowTest {
     InFront<StatementEntryWindow>();
   }
 
+  void ShowLastPage() {
+    while (IsEnabled("cmdNext")) Click("cmdNext");
+  }
+
   /// Types a balance into so many days, one after the other.
   void TypeDays(int count, const char* balance) {
     for (int day = 0; day < count; ++day) {

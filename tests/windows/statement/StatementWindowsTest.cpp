@@ -78,8 +78,8 @@ TEST_F(StatementWindows, NothingOfAnAccountIsSeenInTheNext) {
     for (const char* field : {"txtName", "txtDepositorName", "txtAcctNum"}) Type(field, "First");
     ContinueUncompounded();
     EnterTerms("6.58", "6.3875", "2");
-    ComputeDays("cmdComputeLADB", 2, "1000");
     Type("txtDRFactor", "1/360");
+    ComputeDays("cmdComputeLADB", 2, "1000");
     if (fromResults) Calculate();
     Click(button);
     if (toMainMenu) {
@@ -178,6 +178,15 @@ TEST_F(StatementWindows, TheCalendarAsksForBothDatesAndFillsTheDays) {
   InFront<StatementEntryWindow>();
   EXPECT_EQ(Text("txtDateStart") + " " + Text("txtDateEnd"), "02-15-2026 03-15-2026");
   EXPECT_EQ(Text("txtLedgerdays"), "28");
+  for (const auto& [typed, days] : {std::pair{"03012026", "14"}, {"", ""}, {"03162026", "29"}}) {
+    Type("txtDateEnd", typed);
+    EXPECT_EQ(Text("txtLedgerdays"), days) << "the days follow the dates";
+  }
+  EnterTerms("5", "5", "2");
+  Type("txtADBLedgerBalance", "1000");
+  Type("txtIntAmt", "5");
+  Expect({.text = "The dates count 29 days; the entry is 2.", .icon = MessageIcon::None});
+  Calculate();
 }
 
 }  // namespace

@@ -75,18 +75,7 @@ TEST_F(TieredStatement, BackKeepsTheTableAndAChangedOneEndsTheDetail) {
   Type("txtInt(2)", "2.5");
   OpenPeriod();
   EXPECT_EQ(DetailOf(session.statement), nullptr) << "the days were computed by another table";
-}
-
-TEST_F(TieredStatement, MainMenuOfTheTableLeavesNothingOfTheAccount) {
-  OpenTable("optTierA");
-  TypeTable();
-  Click("cmdExit");
-  InFront<MainMenu>();
-  EXPECT_EQ(windows.Find<StatementSetupWindow>(), nullptr);
-  Click("cmdStatement");
-  InFront<StatementSetupWindow>();
-  OpenTable("optTierA");
-  EXPECT_EQ(Get<QComboBox>("cboTotalTiers")->currentIndex(), -1);
+  EXPECT_EQ(Text("txtIntAmt"), "");
 }
 
 }  // namespace
