@@ -1,9 +1,9 @@
 #include "statement/DailyBalances.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "account/TierTable.h"
+#include "formulas/AnnualYield.h"
 #include "formulas/DayInterest.h"
 #include "formulas/InterestByDay.h"
 
@@ -91,7 +91,7 @@ std::optional<std::string> EmptyDaysQuestion(const DailyBalances& daily) {
 std::variant<ComputedDays, Refusal> ComputeAdb(const DailyBalances& daily) {
   const StatementInterest computed = InterestByDay(
       daily.account, OfEachDay(daily, &DayEntry::balance), OfEachDay(daily, &DayEntry::rate));
-  if (!std::isfinite(computed.averageBalance) || !std::isfinite(computed.interest.total)) {
+  if (!IsAmount(computed.averageBalance) || !IsAmount(computed.interest.total)) {
     return RefusalOf(Failure::NotComputable);
   }
   ComputedDays days{.averageBalance = computed.averageBalance, .interest = {}};

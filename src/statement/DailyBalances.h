@@ -60,7 +60,7 @@ struct ComputedDays {
 };
 
 /// The average of the days and the interest that they earn; with both minimums the daily balance
-/// method gives none (0). Figures that are not finite are refused.
+/// method gives none (0). Figures that no account has are refused.
 std::variant<ComputedDays, Refusal> ComputeAdb(const DailyBalances& daily);
 
 /// The rows of one page of the daily window.

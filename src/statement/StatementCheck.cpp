@@ -1,8 +1,7 @@
 #include "statement/StatementCheck.h"
 
-#include <cmath>
-
 #include "account/DailyRateFactor.h"
+#include "formulas/AnnualYield.h"
 #include "formulas/ApyEarned.h"
 #include "statement/EntryChecks.h"
 #include "support/Rounding.h"
@@ -36,7 +35,8 @@ double ApyOf(const StatementCheck& check, double interest) {
 std::optional<Refusal> TakeResult(StatementCheck& check) {
   const double interest = RoundToCents(check.entry.txtIntAmt.Value());
   const double apy = RoundToCents(ApyOf(check, interest));
-  if (!std::isfinite(apy)) {
+  const double balance = check.entry.Average(BasisColumn(check.entry.basis)).Value();
+  if (!IsAmount(interest) || !IsAmount(balance) || !IsApy(apy)) {
     Refusal refusal = RefusalOf(Failure::NotComputable);
     refusal.field = "txtIntAmt";
     return refusal;
