@@ -145,6 +145,7 @@ class Walk : public WindowTest {
       {"enabled", State("enabled", true)},
       {"disabled", State("enabled", false)},
       {"chosen", State("checked", true)},
+      {"unchosen", State("checked", false)},
       {"up", State("down", false)},
       {"report", [this](const Words& words) { Report(words); }},
       {"ended", [this](const Words&) { Ended(); }},
