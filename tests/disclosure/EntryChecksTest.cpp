@@ -34,7 +34,7 @@ TEST(DisclosureEntryChecks, EachFailsInItsTurnAndNothingElseIsRefused) {
                    return Put(check.setup, name, text) || Type(check, entry, name, text);
                  },
              .said = [&] { return Said(CheckEntry(check, entry)); },
-             .shown = [&](auto& name) { return TextOf(Completed(check, entry), name); }});
+             .shown = [&](auto& name) { return ShownBy(Completed(check, entry), name); }});
 }
 
 }  // namespace
