@@ -1,6 +1,6 @@
 #!/bin/sh
 # Builds Corvane and runs all tests; installs missing packages first. Arguments go to ctest, such
-# as -R RegularApy.
+# as -R RegularAccount.
 set -eu
 cd "$(dirname "$0")"
 

@@ -3,17 +3,14 @@
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <memory>
 #include <stdexcept>
 
-#include "account/SessionRecord.h"
+#include "formulas/DisclosedYield.h"
 #include "formulas/InterestByDay.h"
-#include "formulas/RegularApy.h"
 #include "reports/DisclosureReport.h"
 #include "reports/InterestReport.h"
 #include "reports/StatementReport.h"
+#include "support/WholeFile.h"
 
 namespace corvane {
 
@@ -21,116 +18,82 @@ namespace {
 
 using Act = std::function<void()>;
 
-constexpr int kLongestPeriod = 96;
-
-/// What a row changes in a regular account that compounds daily.
-using Change = std::function<void(SessionRecord&)>;
-
-SessionRecord DailyAccount() {
-  SessionRecord session;
-  session.InstitutionName = "First National Bank";
-  session.AccountDescription = "12 Month Certificate";
-  session.RoundingDigits = 15;
-  session.AcctRegular = true;
-  session.CompoundDays = true;
-  session.CompoundingDays = 1;
-  session.DaysInYear365 = true;
-  session.DaysInYear = 365;
-  session.BeginMonth = 1;
-  session.BeginYear = 2023;
-  return session;
+/// $1,000 at 5.25 % over the term, with 12 withdrawals where the terms demand them.
+Act Check(const AccountTerms& terms, double term) {
+  Deposit deposit;
+  deposit.balance = 1000;
+  deposit.rate = 5.25;
+  deposit.term = term;
+  deposit.begin = std::chrono::year{2023} / std::chrono::January;
+  if (terms.withdrawal != Unit::None) deposit.withdrawals = {.periods = 12, .apart = 1};
+  if (FailureOf(RegularYield(terms, deposit))) throw std::logic_error("nothing was computed");
+  return [=] { benchmark::DoNotOptimize(RegularYield(terms, deposit)); };
 }
 
-/// $1,000 at 5.25 % over the term, as Calculate computes it.
-Act Check(const Change& change, double term) {
-  auto session = std::make_shared<SessionRecord>(DailyAccount());
-  change(*session);
-  session->EnteredTerm = term;
-  const auto compute = [session, term] {
-    double principal = 1000;
-    double countedTerm = term;
-    return CalcRegularApy(*session, 5.39, 5.25, principal, countedTerm, "1/365", 1);
-  };
-  if (compute() || session->ComputedInterest <= 0) throw std::logic_error("nothing was computed");
-  return [compute] { benchmark::DoNotOptimize(compute()); };
+const AccountHeader kHeader = {"First National Bank", "12 Month Certificate", "", ""};
+const Date kToday = std::chrono::year{2024} / std::chrono::March / 7;
+
+ReportContent Disclosure() {
+  DisclosureCheck check;
+  DisclosureEntry& entry = check.entries.emplace_back();
+  entry.txtBal.text = "1000.00";
+  entry.txtIntRateA.text = "5.25";
+  entry.txtTerm.text = "365";
+  entry.txtDiscAPY.text = "5.39";
+  check.result = {.rows = {{1, 1000, {5.25}, 365, 53.9, 5.39, 5.39, Verdict::Ok}}};
+  return DisclosureReport(kHeader, check, kToday);
 }
 
-void Withdraw(SessionRecord& session, Flag SessionRecord::*interval) {
-  session.*interval = true;
-  session.WdrwlPeriods = 12;
-  session.BtwnReqIntWdrwl = 1;
+StatementCheck CheckedStatement() {
+  StatementCheck check;
+  check.setup.compounding = Unit::Days;
+  check.setup.txtDCompounding.text = "1";
+  StatementEntry& entry = check.entry;
+  entry.txtMinADB.text = entry.txtMinDBal.text = "0";
+  entry.txtIntRate.text = "5.25";
+  entry.txtIntAmt.text = "13.81";
+  entry.txtDClApy.text = "5.39";
+  entry.txtLedgerdays.text = entry.txtColDays.text = "96";
+  entry.txtADBLedgerBalance.text = entry.txtADBCollectedBalance.text = "1000.00";
+  check.result = {.interest = 13.81, .apy = 5.39, .verdict = Verdict::Ok};
+  return check;
 }
 
-void CompoundBy(SessionRecord& session, Flag SessionRecord::*unit) {
-  session.CompoundDays = false;
-  session.*unit = true;
+ReportContent Statement() {
+  return StatementReport(kHeader, CheckedStatement(), kToday);
 }
 
-std::vector<std::string> TemplateLines(std::string_view name) {
-  std::ifstream in(PathOf(FileIn(CORVANE_TEMPLATE_FOLDER, name)), std::ios::binary);
-  return LinesOf(std::string(std::istreambuf_iterator<char>(in), {}));
+ReportContent InterestOfLongestPeriod() {
+  DailyBalances daily;
+  daily.start = std::chrono::year{2024} / std::chrono::January / 15;
+  for (int day = 1; day <= kLongestPeriod; ++day) daily.days.push_back({1000.0 + day, 5.25});
+  return InterestReport(kHeader, CheckedStatement(), daily, kToday);
 }
 
-using MakeContent = std::function<ReportContent(const SessionRecord&)>;
+struct TimedReport {
+  std::string name;
+  const ReportNames& names;
+  ReportContent (*content)();
 
-/// A session with a computed account and a statement of the longest period.
-std::shared_ptr<const SessionRecord> ComputedSession() {
-  auto session = std::make_shared<SessionRecord>(DailyAccount());
-  session->ReqWdrwlNotReq = true;
-  session->ComputedInterest = 53.9;
-  session->ComputedApy = 5.39;
-  session->ApyVerdict = "OK";
-  session->LedgerBasis = true;
-  session->StatementDays = kLongestPeriod;
-  session->PeriodStart = SerialOf(*ParseDate("01-15-2024"));
-  session->LedgerDayBalances.Resize(1, kLongestPeriod);
-  session->LedgerDayRates.Resize(1, kLongestPeriod);
-  for (int day = 1; day <= kLongestPeriod; ++day) {
-    session->LedgerDayBalances.Set(day, 1000 + day);
-    session->LedgerDayRates.Set(day, 5.25);
+  std::filesystem::path Template() const {
+    return std::filesystem::path(CORVANE_TEMPLATE_FOLDER) / names.templateName;
   }
-  return session;
-}
+};
 
-Act BuildInMemory(const ReportNames& names, const MakeContent& content) {
-  const auto session = ComputedSession();
-  const auto lines = TemplateLines(names.templateName);
-  if (lines.empty()) throw std::logic_error("no template");
-  return [=] { benchmark::DoNotOptimize(BuildReport(lines, content(*session)).text.data()); };
+Act FillInMemory(const TimedReport& report) {
+  const auto source = ReadWholeFile(report.Template());
+  const auto lines = LinesOf(std::get<std::string>(source));
+  return [=] { benchmark::DoNotOptimize(FillTemplate(lines, report.content()).lines.data()); };
 }
 
 /// Reads the template, fills it and writes the report, as the results window does.
-Act BuildFile(const ReportNames& names, const MakeContent& content) {
-  const auto session = ComputedSession();
-  const std::string source = FileIn(CORVANE_TEMPLATE_FOLDER, names.templateName);
-  const std::string target =
-      FileIn(Utf8Of(std::filesystem::temp_directory_path()), "corvane_bench.html");
+Act WriteFile(const TimedReport& report) {
+  const auto target = std::filesystem::temp_directory_path() / "corvane_bench.html";
   return [=] {
-    if (BuildReportFile(source, target, content(*session)).error) {
+    if (!WriteReport(report.Template(), target, report.content()).text) {
       throw std::logic_error("no report was written");
     }
   };
-}
-
-ReportContent Disclosure(const SessionRecord& session) {
-  return DisclosureReport(session, {"1000.00", "5.25", "365", "5.39", "", ""});
-}
-
-ReportContent Statement(const SessionRecord& session) {
-  return StatementReport(session, {.txtDCompounding = "1",
-                                   .txtMinADB = "0",
-                                   .txtMinDBal = "0",
-                                   .txtIntRate = "5.25",
-                                   .txtIntAmt = "13.81",
-                                   .txtDClApy = "5.39",
-                                   .txtLedgerdays = "96",
-                                   .txtADBLedgerBalance = "1000.00",
-                                   .txtColDays = "96",
-                                   .txtADBCollectedBalance = "1000.00"});
-}
-
-ReportContent InterestByDayReport(const SessionRecord& session) {
-  return InterestReport(session, {});
 }
 
 /// A period of the longest length, the balances spread over three tiers.
@@ -144,7 +107,7 @@ Act StatementPeriod(const StatementAccount& account) {
   return [=] { benchmark::DoNotOptimize(InterestByDay(account, balances, rates).interest.total); };
 }
 
-StatementAccount Earning(RateKind kind, BalanceMethod method) {
+StatementAccount Earning(AccountKind kind, BalanceMethod method) {
   StatementAccount account;
   account.kind = kind;
   account.method = method;
@@ -154,39 +117,37 @@ StatementAccount Earning(RateKind kind, BalanceMethod method) {
   return account;
 }
 
-Change By(Flag SessionRecord::*unit) {
-  return [unit](SessionRecord& session) { CompoundBy(session, unit); };
-}
-
 std::vector<BenchCase> CheckCases() {
-  const auto unchanged = [](SessionRecord&) {};
-  const auto withdrawnByDays = [](SessionRecord& session) {
-    Withdraw(session, &SessionRecord::ReqWdrwlDays);
+  using enum Unit;
+  const struct {
+    const char* name;
+    Unit compounding, withdrawal;
+    double term;
+  } accounts[] = {
+      {"closed/none", None, None, 365},
+      {"closed/days", Days, None, 365},
+      {"closed/months", Months, None, 12},
+      {"closed/years", Years, None, 1},
+      {"withdrawals/365 days by days", Days, Days, 365},
+      {"withdrawals/365 days by months", Days, Months, 365},
+      {"withdrawals/12 months", Months, Months, 12},
   };
-  const auto withdrawnByMonths = [](SessionRecord& session) {
-    Withdraw(session, &SessionRecord::ReqWdrwlMonths);
-  };
-  const auto monthlyWithdrawn = [](SessionRecord& session) {
-    CompoundBy(session, &SessionRecord::CompoundMonths);
-    Withdraw(session, &SessionRecord::ReqWdrwlMonths);
-  };
-  return {
-      {"closed/none", [] { return Check(By(&SessionRecord::CompoundNone), 365); }},
-      {"closed/days", [=] { return Check(unchanged, 365); }},
-      {"closed/months", [] { return Check(By(&SessionRecord::CompoundMonths), 12); }},
-      {"closed/years", [] { return Check(By(&SessionRecord::CompoundYears), 1); }},
-      {"withdrawals/365 days by days", [=] { return Check(withdrawnByDays, 365); }},
-      {"withdrawals/365 days by months", [=] { return Check(withdrawnByMonths, 365); }},
-      {"withdrawals/12 months", [=] { return Check(monthlyWithdrawn, 12); }},
-  };
+  std::vector<BenchCase> cases;
+  for (const auto& a : accounts) {
+    AccountTerms terms;
+    terms.compounding.unit = a.compounding;
+    terms.withdrawal = a.withdrawal;
+    cases.push_back({a.name, [terms, term = a.term] { return Check(terms, term); }});
+  }
+  return cases;
 }
 
 std::vector<BenchCase> StatementCases() {
-  using enum RateKind;
+  using enum AccountKind;
   using enum BalanceMethod;
   const struct {
     const char* name;
-    RateKind kind;
+    AccountKind kind;
     BalanceMethod method;
   } accounts[] = {
       {"statement of 96 days/regular, daily balance", Regular, DailyBalance},
@@ -206,17 +167,15 @@ std::vector<BenchCase> StatementCases() {
 }
 
 std::vector<BenchCase> ReportCases() {
-  const struct {
-    std::string name;
-    const ReportNames& names;
-    ReportContent (*content)(const SessionRecord&);
-  } reports[] = {{"disclosure", kDisclosureReport, Disclosure},
-                 {"statement", kStatementReport, Statement},
-                 {"interest of 96 days", kInterestReport, InterestByDayReport}};
+  const TimedReport reports[] = {
+      {"disclosure", kDisclosureReport, Disclosure},
+      {"statement", kStatementReport, Statement},
+      {"interest of 96 days", kInterestReport, InterestOfLongestPeriod},
+  };
   std::vector<BenchCase> cases;
-  for (const auto& r : reports) {
-    cases.push_back({"report/" + r.name, [r] { return BuildInMemory(r.names, r.content); }});
-    cases.push_back({"report/" + r.name + ", file", [r] { return BuildFile(r.names, r.content); }});
+  for (const TimedReport& r : reports) {
+    cases.push_back({"report/" + r.name, [r] { return FillInMemory(r); }});
+    cases.push_back({"report/" + r.name + ", file", [r] { return WriteFile(r); }});
   }
   return cases;
 }

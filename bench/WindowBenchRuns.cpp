@@ -7,14 +7,15 @@
 #include <chrono>
 #include <cstdio>
 
-#include "account/SessionRecord.h"
 #include "platform/Pictures.h"
 #include "platform/ProgramFolder.h"
 #include "platform/WebView.h"
 #include "reports/DisclosureReport.h"
+#include "support/Paths.h"
 #include "windows/disclosure/DisclosureEntryWindow.h"
 #include "windows/disclosure/DisclosureResultsWindow.h"
 #include "windows/disclosure/DisclosureSetupWindow.h"
+#include "windows/frame/Session.h"
 #include "windows/frame/WindowRegistry.h"
 #include "windows/start/DisclaimerWindow.h"
 #include "windows/start/MainMenu.h"
@@ -61,7 +62,7 @@ int ShowFirstWindow(int argc, char** argv) {
   QApplication::setWindowIcon(ProgramIcon());
   FirstPaint watch;
   application.installEventFilter(&watch);
-  SessionRecord session;
+  Session session;
   WindowRegistry windows(session);
   windows.Show<DisclaimerWindow>();
   return QApplication::exec();
@@ -108,7 +109,7 @@ void TimeCalculate(WindowRegistry& windows) {
 int Calculate(int argc, char** argv) {
   PrepareWebView();
   QApplication application(argc, argv);
-  SessionRecord session;
+  Session session;
   WindowRegistry windows(session);
   EnterAccount(windows);
   QTimer::singleShot(kRestMilliseconds, [&windows] { TimeCalculate(windows); });

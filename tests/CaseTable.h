@@ -37,7 +37,7 @@ struct CaseRow {
 
 /// The rows of a table that tests/reference/make_tables.py wrote.
 inline std::vector<CaseRow> ReadCases(const std::string& name) {
-  std::ifstream file(CORVANE_REFERENCE_TABLES + name);
+  std::ifstream file(CORVANE_TESTS "reference/" + name);
   std::string line;
   std::getline(file, line);
   const auto columns = SplitAt(line, ',');

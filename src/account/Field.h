@@ -13,6 +13,9 @@ namespace corvane {
 struct Field {
   std::string text;
   bool enabled = true;
+  /// The program worked the text out from other entries and follows their changes. What a person
+  /// types stays.
+  bool workedOut = false;
 
   bool IsEmpty() const { return Trim(text).empty(); }
   bool IsNumber() const { return IsNumeric(text); }

@@ -19,10 +19,14 @@ TierRefusal Refuse(std::string text, const char* array, int index) {
   return {{std::move(text), ElementName(array, index)}};
 }
 
+bool IsNoRate(const std::string& text) {
+  return !IsNumeric(text) || NumericValue(text) < 0;
+}
+
 std::optional<TierRefusal> CheckFirstTier(const TierTable& table) {
   const auto& [rate, bound] = table.Of(1);
   if (IsEmpty(rate)) return Refuse("Please input Interest Rate.", "txtInt", 1);
-  if (!IsNumeric(rate)) {
+  if (IsNoRate(rate)) {
     return Refuse("Please enter integers and no decimals for Interest Rate.", "txtInt", 1);
   }
   if (IsMissingBound(bound) || !IsNumeric(bound)) {
@@ -34,7 +38,7 @@ std::optional<TierRefusal> CheckFirstTier(const TierTable& table) {
 std::optional<TierRefusal> CheckRate(const TierTable& table, int tier) {
   const std::string& rate = table.Of(tier).rate;
   if (IsEmpty(rate)) return Refuse("Please input Interest Rate", "txtInt", tier);
-  if (IsNumeric(rate)) return std::nullopt;
+  if (!IsNoRate(rate)) return std::nullopt;
   return Refuse("Please enter integers and no decimals for Interest Rate.", "txtInt", tier);
 }
 

@@ -91,6 +91,10 @@ template <Field DisclosureEntry::*AField>
 bool NotNumeric(const Checked& c) {
   return !(c.entry.*AField).IsNumber();
 }
+template <Field DisclosureEntry::*AField>
+bool NoPercentage(const Checked& c) {
+  return NotNumeric<AField>(c) || (c.entry.*AField).Value() < 0;
+}
 bool IsNoPeriodNumber(const Field& number) {
   return !IsWhole(number.Value()) || number.Value() < 2 || number.Value() > 10;
 }
@@ -132,7 +136,7 @@ bool NoWithdrawal(const Checked& c) {
   return c.W() < 1;
 }
 bool TermNoMultipleOfWithdrawals(const Checked& c) {
-  return c.W() < 1 || std::fmod(RoundToDecimals(c.term.periods.value_or(0), 0), c.W()) != 0;
+  return std::fmod(RoundToDecimals(c.term.periods.value_or(0), 0), c.W()) != 0;
 }
 bool TermNotDividedByWithdrawals(const Checked& c) {
   return c.W() == 0 || !IsWhole(*c.term.periods / c.W());
@@ -178,6 +182,8 @@ bool EndDateInvalid(const Checked& c) {
 }
 
 constexpr const char* kPeriodRange = "Please enter the period numbers from 2 to 10 only.";
+constexpr const char* kNotDivisible =
+    "The Compounding Period must be evenly divisble by the Withdrawal periods";
 constexpr const char* kPeriods = "txtTierPerNum";
 constexpr const char* kBalance = "txtBal";
 constexpr const char* kTerm = "txtTerm";
@@ -197,12 +203,12 @@ constexpr OrderedCheck<Checked> kChecks[] = {
     {Everyone, MonthOutsideYear, "Please enter a valid Beginning Month value", "txtBeginMonth"},
     {Everyone, YearIsNoYear, "Please enter a valid Beginning Year value.", "txtBeginYear"},
     {Everyone, YearBefore1901, "Please enter a Year value above 1900.", "txtBeginYear"},
-    {Everyone, NotNumeric<&DisclosureEntry::txtDiscAPY>, "Please enter a valid Disclosed APY value",
-     "txtDiscAPY"},
+    {Everyone, NoPercentage<&DisclosureEntry::txtDiscAPY>,
+     "Please enter a valid Disclosed APY value", "txtDiscAPY"},
     {Everyone, NotNumeric<&DisclosureEntry::txtBal>,
      "Please enter a valid Principal Balance Amount", kBalance},
     {Everyone, BalanceNotAboveZero, "Please enter a valid Principal Balance Amount", kBalance},
-    {Everyone, NotNumeric<&DisclosureEntry::txtIntRateA>,
+    {Everyone, NoPercentage<&DisclosureEntry::txtIntRateA>,
      "Please enter a valid Interest Rate value", "txtIntRateA"},
     {ByCalendar, StartDateInvalid, "Starting Date is invalid, Please correct", kStart},
     {Everyone, TermUnusable, "Please enter a valid Compounding Period value", kTerm},
@@ -212,8 +218,8 @@ constexpr OrderedCheck<Checked> kChecks[] = {
      kDistance},
     {DaysWithdrawnByDays, NoWithdrawal, "Please enter a valid Withdrawal Period for term",
      kWithdrawals},
-    {OthersWithdrawnByMonths, TermNoMultipleOfWithdrawals,
-     "The Compounding Period must be evenly divisble by the Withdrawal periods", kTerm},
+    {OthersWithdrawnByMonths, NoWithdrawal, kNotDivisible, kWithdrawals},
+    {OthersWithdrawnByMonths, TermNoMultipleOfWithdrawals, kNotDivisible, kTerm},
     {DaysWithdrawnByDaysInKnownTerm, TermNotDividedByWithdrawals,
      "Withdrawal periods do not agree with compound periods", kTerm},
     {DaysWithdrawnByDays, DistanceIsNotPeriodLength,

@@ -71,6 +71,22 @@ std::string TermLabel(const DisclosureSetup& setup) {
   return "";
 }
 
+std::string TermTip(const DisclosureSetup& setup) {
+  const int length = PeriodLength(setup);
+  const std::string n = std::to_string(length);
+  switch (setup.compounding) {
+    case Unit::None:
+    case Unit::Days:
+      return "Term Length in " + (length > 1 ? n + " day Periods" : std::string("Days")) +
+             ".  Enter 0 to use the Calendar.";
+    case Unit::Months:
+      return "Term Length in " + n + " Month Periods.";
+    case Unit::Years:
+      return "Term Length in " + n + " Year Periods.";
+  }
+  return "";
+}
+
 /// Which bound of the tier the balance field holds.
 std::string BoundCaption(const DisclosureCheck& check) {
   if (check.setup.kind != AccountKind::TierB) return "";
@@ -107,6 +123,9 @@ EntryCaptions CaptionsFor(const DisclosureCheck& check) {
   captions.lblReqIntWdrwl = monthly ? "Months Between Required Interest Withdrawals"
                                     : "Days Between Required Interest Withdrawals";
   captions.lblHighLowEnd = BoundCaption(check);
+  captions.txtTermTip = TermTip(check.setup);
+  captions.txtBtwnReqIntWdrwlTip = monthly ? "Months between required Interest Withdrawal"
+                                           : "Days between required Interest Withdrawal";
   NamePeriods(check, captions);
   return captions;
 }

@@ -18,6 +18,8 @@ struct EntryCaptions {
   std::string lblReqIntWdrwl;
   std::string lblPeriodNumber;
   std::string lblHighLowEnd;
+  std::string txtTermTip;  ///< tool tips of the fields whose unit is the account's
+  std::string txtBtwnReqIntWdrwlTip;
 };
 EntryCaptions CaptionsFor(const DisclosureCheck& check);
 

@@ -63,6 +63,7 @@ void BeginWherePreviousEnded(const DisclosureSetup& setup, DisclosureEntry& entr
 DisclosureEntry NextEntry(const DisclosureCheck& check) {
   DisclosureEntry entry = KeptEntry(check, check.completed);
   entry.tStartDate.text = entry.tEndDate.text = kEmptyDateMask;
+  entry.txtTerm.workedOut = false;  // by the dates of the entry before
   if (check.setup.IsTiered()) {
     entry.txtBal.text.clear();
     entry.txtDiscAPY.text.clear();

@@ -25,7 +25,7 @@ bool StepsThroughPeriods(const DisclosureSetup& setup) {
 }  // namespace
 
 bool AsksForCalendar(const Field& term) {
-  return term.IsEmpty() || (term.IsNumber() && term.Value() == 0);
+  return term.workedOut || term.IsEmpty() || (term.IsNumber() && term.Value() == 0);
 }
 
 bool HasCalendar(const DisclosureSetup& setup) {
@@ -52,6 +52,14 @@ std::optional<std::string> CountedTermText(const DisclosureSetup& setup,
   const int length = PeriodLength(setup);
   if (!days || *days <= 0 || *days % length != 0) return std::nullopt;
   return FormatPlain(*days / length);
+}
+
+void CountTerm(const DisclosureSetup& setup, DisclosureEntry& entry) {
+  if (!TermOf(setup, entry).fromCalendar) return;
+  const auto counted = CountedTermText(setup, entry);
+  Field& term = entry.txtTerm;
+  if (counted || term.workedOut) term.text = counted.value_or("");
+  term.workedOut |= counted.has_value();
 }
 
 bool IsUsableTerm(const DisclosureSetup& setup, const EntryTerm& term) {

@@ -8,7 +8,7 @@
 
 namespace corvane {
 
-/// Whether a term field leaves the counting to the two dates: it is empty or 0.
+/// Whether a term field leaves the counting to the two dates: it is empty or 0, or they filled it.
 bool AsksForCalendar(const Field& term);
 
 /// Whether the term can be given by two dates at all: no compounding, or compounding by days.
@@ -28,6 +28,10 @@ EntryTerm TermOf(const DisclosureSetup& setup, const DisclosureEntry& entry);
 /// Nothing when the dates are not in order or leave a rest.
 std::optional<std::string> CountedTermText(const DisclosureSetup& setup,
                                            const DisclosureEntry& entry);
+
+/// Fills a term that is left to the dates with their count; one that they filled before is emptied
+/// when they give none.
+void CountTerm(const DisclosureSetup& setup, DisclosureEntry& entry);
 
 /// Whether the formulas can take the term: above 0, whole wherever periods are stepped through one
 /// by one, and of no more than 36,600 days or 1,200 months.

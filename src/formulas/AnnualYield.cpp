@@ -6,6 +6,21 @@
 
 namespace corvane {
 
+namespace {
+
+constexpr double kNoAmount = 1e13;
+constexpr double kNoApy = 1e5;
+
+}  // namespace
+
+bool IsAmount(double amount) {
+  return std::fabs(amount) < kNoAmount;
+}
+
+bool IsApy(double apy) {
+  return std::fabs(apy) < kNoApy;
+}
+
 double GrowthOf(double rate, double power) {
   return std::expm1(power * std::log1p(rate));
 }
@@ -13,7 +28,7 @@ double GrowthOf(double rate, double power) {
 Outcome<Yield> YieldOf(double interest, double principal, double exponent) {
   const double rounded = RoundToCents(interest);
   const double apy = 100 * GrowthOf(rounded / principal, exponent);
-  if (!std::isfinite(rounded) || !std::isfinite(apy)) return Failure::NotComputable;
+  if (!IsAmount(rounded) || !IsAmount(principal) || !IsApy(apy)) return Failure::NotComputable;
   return Yield{rounded, RoundToCents(apy)};
 }
 

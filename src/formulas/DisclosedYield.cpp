@@ -1,7 +1,6 @@
 #include "formulas/DisclosedYield.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "formulas/DailyRate.h"
 #include "formulas/TermInterest.h"
@@ -29,7 +28,7 @@ Outcome<TermInterest> InterestOfPeriod(const AccountTerms& terms, Deposit period
   const auto earned = terms.compounding.unit == Unit::Years ? InterestByYears(terms, period)
                                                             : InterestOfTerm(terms, period, fill);
   const auto* found = std::get_if<TermInterest>(&earned);
-  return found && !std::isfinite(found->interest) ? Failure::NotComputable : earned;
+  return found && !IsAmount(found->interest) ? Failure::NotComputable : earned;
 }
 
 bool PeriodsBuildOnInterest(const AccountTerms& terms) {
@@ -73,7 +72,7 @@ Outcome<SteppedYield> SteppedYieldOf(const AccountTerms& terms, double balance,
     const auto& [interest, counted] = std::get<TermInterest>(earned);
     result.interest.push_back(interest);
     length += counted;
-    if (RoundToCents(interest) > 0) total += interest;
+    total += interest;
   }
   const auto whole = YieldOf(RoundIntermediate(total), balance,
                              YieldExponent(terms.compounding, terms.year.days, length));

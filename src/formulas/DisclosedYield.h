@@ -8,7 +8,7 @@
 namespace corvane {
 
 // The annual percentage yield that an account has to disclose (Regulation DD, Appendix A, Part I).
-// Each fails as InterestOfTerm does, and where the APY is not finite.
+// Each fails as InterestOfTerm does, and where no account has such a balance, interest or APY.
 
 /// A regular-rate account, or one tier by method A (Part I.A and Part I.D, method A).
 Outcome<Yield> RegularYield(const AccountTerms& terms, const Deposit& deposit);
@@ -20,8 +20,8 @@ struct SteppedYield {
 
 /// A stepped-rate account (Part I.B): the periods follow one another, the first starting on
 /// `balance`; their own balances are not read. What a period earns stays in the account and earns
-/// in the next one, except without compounding and where interest must be withdrawn. With
-/// compounding by years every year has 365 days.
+/// in the next one, unrounded, except without compounding and where interest must be withdrawn.
+/// With compounding by years every year has 365 days.
 /// @param periods at least one
 Outcome<SteppedYield> SteppedYieldOf(const AccountTerms& terms, double balance,
                                      std::span<const Deposit> periods);

@@ -8,7 +8,8 @@ namespace corvane {
 /// Why a formula has no result.
 enum class Failure {
   WithdrawalPeriodsDisagree,  ///< the withdrawal periods do not fill the term
-  NotComputable,  ///< a precondition fails, the figure is not finite, or it takes too many steps
+  NotComputable,  ///< a precondition fails, no account has such a figure, or it takes too many
+                  ///< steps
 };
 
 /// A result, or why there is none.

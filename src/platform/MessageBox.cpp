@@ -27,8 +27,10 @@ void ShowMessage(QWidget* parent, const QString& text, const QString& title,
   Run(box);
 }
 
-bool AskYesNo(QWidget* parent, const QString& text, const QString& title) {
+bool AskYesNo(QWidget* parent, const QString& text, const QString& title,
+              QMessageBox::StandardButton byDefault) {
   QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Yes | QMessageBox::No, parent);
+  box.setDefaultButton(byDefault);
   return Run(box) == QMessageBox::Yes;
 }
 

@@ -11,8 +11,9 @@ namespace corvane {
 void ShowMessage(QWidget* parent, const QString& text, const QString& title,
                  QMessageBox::Icon icon);
 
-/// Asks with the buttons Yes and No; true for Yes.
-bool AskYesNo(QWidget* parent, const QString& text, const QString& title);
+/// Asks with the buttons Yes and No; true for Yes. Enter gives the answer that is the default.
+bool AskYesNo(QWidget* parent, const QString& text, const QString& title,
+              QMessageBox::StandardButton byDefault = QMessageBox::Yes);
 
 /// Is told of every message box as soon as it is on the screen; a test answers it there, or fails
 /// because it did not expect one.

@@ -24,13 +24,14 @@ std::string LabelledLine(std::string_view label, double number) {
 
 /// The withdrawals stand at the end of the line with the days of the year: how many, and how far
 /// apart where that was entered.
-std::string WithdrawalLines(const DisclosureEntry& entry) {
+std::string WithdrawalLines(Unit unit, const DisclosureEntry& entry) {
   const double periods = entry.txtWdrwlPeriods.Value();
-  const double monthsBetween = entry.txtBtwnReqIntWdrwl.Value();
+  const double between = entry.txtBtwnReqIntWdrwl.Value();
   if (periods == 0) return "";
   std::string lines = LabelledLine("Required Interest Withdrawals: ", periods);
-  if (monthsBetween != 0) {
-    lines += LabelledLine("Months Between Req'd Interest Withdrawals: ", monthsBetween);
+  if (between != 0) {
+    lines += LabelledLine(std::string(UnitText(unit)) + " Between Req'd Interest Withdrawals: ",
+                          between);
   }
   return lines + "<br>";
 }
@@ -39,7 +40,8 @@ std::string WithdrawalLines(const DisclosureEntry& entry) {
 Tags TagsOf(const AccountHeader& header, const DisclosureCheck& check, const Date& today) {
   const DisclosureResult& result = check.result.value();
   Tags tags = CommonTags(header, result.factorDays, today);
-  tags["^drf^"].lineEnd = WithdrawalLines(check.entries.at(result.rows.size() - 1));
+  tags["^drf^"].lineEnd =
+      WithdrawalLines(check.setup.withdrawal, check.entries.at(result.rows.size() - 1));
   tags.insert({
       {"^MainHeading^", {AccountTypeHeading(check.setup.kind.value())}},
       {"^acctnum^", {EscapeHtml(header.holder)}},

@@ -14,9 +14,8 @@ std::string PaddingCells() {
 
 std::string DayCells(const DailyBalances& daily, std::size_t day) {
   const DayEntry& entry = daily.days.at(day);
-  const Date date = AddDays(daily.start, static_cast<int>(day));
-  return PlainCell(FormatMonthDay(date)) + PlainCell(FormatDollars(entry.balance.value_or(0))) +
-         PlainCell(FormatPlain(entry.rate.value_or(0)) + "%");
+  return PlainCell(DayLabel(daily, day)) + PlainCell(FormatDollars(NumericValue(entry.balance))) +
+         PlainCell(FormatPlain(NumericValue(entry.rate)) + "%");
 }
 
 Rows DayRows(const DailyBalances& daily) {

@@ -1,8 +1,9 @@
 #include "statement/DailyBalances.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "account/TierTable.h"
+#include "formulas/AnnualYield.h"
 #include "formulas/DayInterest.h"
 #include "formulas/InterestByDay.h"
 
@@ -10,17 +11,27 @@ namespace corvane {
 
 namespace {
 
-std::optional<double> NumberIn(const std::string& text) {
-  return IsNumeric(text) ? std::optional(NumericValue(text)) : std::nullopt;
+std::string RewriteRate(const std::string& text) {
+  return IsNumeric(text) ? FormatRate(NumericValue(text)) : text;
 }
 
-double RuleRate(const DailyBalances& daily, const DayEntry& day) {
-  return RateOfDay(daily.account, CountedBalance(day.balance.value_or(0)), day.rate.value_or(0));
+std::string RuleRate(const DailyBalances& daily, const DayEntry& day) {
+  return FormatRate(RateOfDay(daily.account, CountedBalance(NumericValue(day.balance)), 0));
 }
 
-std::vector<double> OfEachDay(const DailyBalances& daily, std::optional<double> DayEntry::*value) {
+bool IsNoNumber(const std::string& text) {
+  return !Trim(text).empty() && !IsNumeric(text);
+}
+
+Refusal RefusalOfDay(const DailyBalances& daily, std::size_t day, const std::string& what,
+                     const char* fields) {
+  return {"Please enter a valid " + what + " for " + DayLabel(daily, day) + ".",
+          ElementName(fields, static_cast<int>(day % kDaysPerPage))};
+}
+
+std::vector<double> OfEachDay(const DailyBalances& daily, std::string DayEntry::*text) {
   std::vector<double> values;
-  for (const DayEntry& day : daily.days) values.push_back((day.*value).value_or(0));
+  for (const DayEntry& day : daily.days) values.push_back(NumericValue(day.*text));
   return values;
 }
 
@@ -32,25 +43,32 @@ double InterestHandedBack(const StatementAccount& account, const StatementIntere
 
 }  // namespace
 
-DayTexts TextsOfDay(const DailyBalances& daily, std::size_t day) {
-  const auto& [balance, rate] = daily.days.at(day);
-  return {.balance = balance ? FormatFixed2(*balance) : "", .rate = rate ? FormatRate(*rate) : ""};
+std::string DayLabel(const DailyBalances& daily, std::size_t day) {
+  return FormatMonthDay(AddDays(daily.start, static_cast<int>(day)));
 }
 
-DayTexts EnterBalance(DailyBalances& daily, std::size_t day, const std::string& balance) {
+void EnterBalance(DailyBalances& daily, std::size_t day, const std::string& balance) {
   DayEntry& entry = daily.days.at(day);
-  entry.balance = NumberIn(balance);
-  if (!daily.TakesRates()) {
-    entry.rate.reset();
-    if (entry.balance.value_or(0) != 0) entry.rate = RuleRate(daily, entry);
+  entry.balance = RewriteFixed2(balance);
+  if (daily.TakesRates()) return;
+  entry.rate = NumericValue(balance) == 0 ? "" : RuleRate(daily, entry);
+}
+
+void TakeDay(DailyBalances& daily, std::size_t day, const DayEntry& row) {
+  DayEntry& entry = daily.days.at(day);
+  entry.balance = RewriteFixed2(row.balance);
+  entry.rate = daily.TakesRates() ? RewriteRate(row.rate) : RuleRate(daily, entry);
+}
+
+std::optional<Refusal> CheckPage(const DailyBalances& daily, int page) {
+  const DaySpan span = DaysOnPage(page, daily.days.size());
+  for (std::size_t day = span.first; day < span.end; ++day) {
+    const auto& [balance, rate] = daily.days[day];
+    if (IsNoNumber(balance)) return RefusalOfDay(daily, day, "balance", "txtDayBal");
+    const bool noRate = IsNoNumber(rate) || NumericValue(rate) < 0;
+    if (daily.TakesRates() && noRate) return RefusalOfDay(daily, day, "rate", "txtRate");
   }
-  return {.balance = RewriteFixed2(balance), .rate = TextsOfDay(daily, day).rate};
-}
-
-void TakeDay(DailyBalances& daily, std::size_t day, const DayTexts& row) {
-  DayEntry& entry = daily.days.at(day);
-  entry.balance = NumberIn(row.balance);
-  entry.rate = daily.TakesRates() ? NumberIn(row.rate) : RuleRate(daily, entry);
+  return std::nullopt;
 }
 
 void ClearDays(DailyBalances& daily) {
@@ -62,10 +80,18 @@ void FillRates(DailyBalances& daily) {
   for (DayEntry& day : daily.days) day.rate = RuleRate(daily, day);
 }
 
+std::optional<std::string> EmptyDaysQuestion(const DailyBalances& daily) {
+  const auto empty = std::ranges::count_if(
+      daily.days, [](const DayEntry& day) { return Trim(day.balance).empty(); });
+  if (empty == 0) return std::nullopt;
+  return std::to_string(empty) + " of " + std::to_string(daily.days.size()) +
+         " days have no balance and count as 0. Compute the average all the same?";
+}
+
 std::variant<ComputedDays, Refusal> ComputeAdb(const DailyBalances& daily) {
   const StatementInterest computed = InterestByDay(
       daily.account, OfEachDay(daily, &DayEntry::balance), OfEachDay(daily, &DayEntry::rate));
-  if (!std::isfinite(computed.averageBalance) || !std::isfinite(computed.interest.total)) {
+  if (!IsAmount(computed.averageBalance) || !IsAmount(computed.interest.total)) {
     return RefusalOf(Failure::NotComputable);
   }
   ComputedDays days{.averageBalance = computed.averageBalance, .interest = {}};

@@ -11,10 +11,11 @@
 
 namespace corvane {
 
-/// One day of the daily window; what was not typed or worked out is nothing.
+/// One day of the daily window, as its row reads: numbers in their formats, any other text as it
+/// was typed.
 struct DayEntry {
-  std::optional<double> balance;  ///< currency, as typed; may be negative
-  std::optional<double> rate;     ///< percent a year
+  std::string balance;  ///< currency; may be negative
+  std::string rate;     ///< percent a year; typed for stepped accounts, else worked out
 };
 
 /// What the daily window works on: the days of one column, first day at 0.
@@ -29,26 +30,28 @@ struct DailyBalances {
   bool TakesRates() const { return account.kind == AccountKind::Stepped; }
 };
 
-struct DayTexts {
-  std::string balance;
-  std::string rate;
-};
+/// The date of a day as its row shows it: "Jan 5".
+std::string DayLabel(const DailyBalances& daily, std::size_t day);
 
-/// How a day's row reads: balance with two decimals, rate with two to four, empty for nothing.
-DayTexts TextsOfDay(const DailyBalances& daily, std::size_t day);
-
-/// Takes a balance field that is left and gives the row's texts back. The rate follows at once for
-/// regular and tiered accounts; a balance of 0 leaves it empty.
-DayTexts EnterBalance(DailyBalances& daily, std::size_t day, const std::string& balance);
+/// Takes a balance field that is left. The rate follows at once for regular and tiered accounts; a
+/// balance of 0 leaves it empty.
+void EnterBalance(DailyBalances& daily, std::size_t day, const std::string& balance);
 
 /// Takes a row as its page is left; the rate counts for stepped accounts only.
-void TakeDay(DailyBalances& daily, std::size_t day, const DayTexts& row);
+void TakeDay(DailyBalances& daily, std::size_t day, const DayEntry& row);
+
+/// Why a page (1 to 3) must not be left: a balance that is no number, or a rate of a stepped
+/// account that is none or below 0.
+std::optional<Refusal> CheckPage(const DailyBalances& daily, int page);
 
 /// "Clear Data": no day holds anything.
 void ClearDays(DailyBalances& daily);
 
 /// Works the rate of every day out anew, on all pages; a stepped account's stay as typed.
 void FillRates(DailyBalances& daily);
+
+/// What "Compute ADB" asks first where days were left empty.
+std::optional<std::string> EmptyDaysQuestion(const DailyBalances& daily);
 
 /// What "Compute ADB" hands back.
 struct ComputedDays {
@@ -57,7 +60,7 @@ struct ComputedDays {
 };
 
 /// The average of the days and the interest that they earn; with both minimums the daily balance
-/// method gives none (0). Figures that are not finite are refused.
+/// method gives none (0). Figures that no account has are refused.
 std::variant<ComputedDays, Refusal> ComputeAdb(const DailyBalances& daily);
 
 /// The rows of one page of the daily window.

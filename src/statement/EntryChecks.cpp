@@ -153,6 +153,7 @@ CheckOutcome CheckEntries(StatementCheck& check) {
   outcome.refusal = CountPeriod(check.setup.year, check.entry, PeriodCaller::Button);
   if (outcome.refusal) return outcome;
   check.entry = WithDemandedMethod(check.setup, std::move(check.entry));
+  FollowChanges(check);
   outcome.refusal = Run(kFieldChecks, check);
   return outcome;
 }

@@ -1,8 +1,7 @@
 #include "statement/StatementCheck.h"
 
-#include <cmath>
-
 #include "account/DailyRateFactor.h"
+#include "formulas/AnnualYield.h"
 #include "formulas/ApyEarned.h"
 #include "statement/EntryChecks.h"
 #include "support/Rounding.h"
@@ -13,13 +12,6 @@ namespace {
 
 std::size_t IndexOf(BalanceColumn column) {
   return static_cast<std::size_t>(column);
-}
-
-/// The days as they are kept: every rate worked out, and 0 for what was left empty.
-std::vector<DayEntry> KeptDays(DailyBalances daily) {
-  FillRates(daily);
-  for (DayEntry& day : daily.days) day = {day.balance.value_or(0), day.rate.value_or(0)};
-  return daily.days;
 }
 
 /// The average lies below a minimum daily balance that stands alone.
@@ -43,7 +35,8 @@ double ApyOf(const StatementCheck& check, double interest) {
 std::optional<Refusal> TakeResult(StatementCheck& check) {
   const double interest = RoundToCents(check.entry.txtIntAmt.Value());
   const double apy = RoundToCents(ApyOf(check, interest));
-  if (!std::isfinite(apy)) {
+  const double balance = check.entry.Average(BasisColumn(check.entry.basis)).Value();
+  if (!IsAmount(interest) || !IsAmount(balance) || !IsApy(apy)) {
     Refusal refusal = RefusalOf(Failure::NotComputable);
     refusal.field = "txtIntAmt";
     return refusal;
@@ -93,6 +86,13 @@ StatementAccount AccountOf(const StatementCheck& check) {
   return account;
 }
 
+void FollowChanges(StatementCheck& check) {
+  RecountPeriod(check.setup.year, check.entry);
+  Field& interest = check.entry.txtIntAmt;
+  if (!interest.workedOut) return;
+  interest.text = check.handed.account == AccountOf(check) ? check.handed.text : "";
+}
+
 CheckOutcome StartCompute(StatementCheck& check, BalanceColumn column) {
   CheckOutcome outcome = CheckEntries(check);
   if (!outcome.refusal) outcome.refusal = CheckBeforeCompute(check);
@@ -119,12 +119,13 @@ DailyBalances DaysOf(const StatementCheck& check, BalanceColumn column, const Da
 void FinishCompute(StatementCheck& check, const DailyBalances& daily,
                    const ComputedDays& computed) {
   check.detail = {daily, computed.averageBalance};
-  check.detail->daily.days = KeptDays(daily);
-  check.days[IndexOf(daily.column)] = check.detail->daily.days;
+  check.days[IndexOf(daily.column)] = daily.days;
   check.entry.Average(daily.column).text = FormatFixed2(computed.averageBalance);
   if (!computed.interest) return;
-  const bool typed = LeavesInterestToBeTyped(daily, computed.averageBalance);
-  check.entry.txtIntAmt.text = typed ? "" : FormatFixed2(*computed.interest);
+  check.handed = {daily.account, FormatFixed2(*computed.interest)};
+  Field& interest = check.entry.txtIntAmt;
+  interest.workedOut = !LeavesInterestToBeTyped(daily, computed.averageBalance);
+  interest.text = interest.workedOut ? check.handed.text : "";
 }
 
 StatementCheck CancelledCompute(StatementCheck before, const DailyBalances& opened) {

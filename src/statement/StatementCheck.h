@@ -19,6 +19,12 @@ struct InterestDetail {
   double averageBalance = 0;
 };
 
+/// The interest that the last Compute ADB handed back, and the account that earns it.
+struct HandedInterest {
+  StatementAccount account;
+  std::string text;
+};
+
 struct StatementResult {
   double interest = 0;  ///< currency, rounded to cents
   double apy = 0;       ///< percent, rounded to hundredths
@@ -34,6 +40,7 @@ struct StatementCheck {
   /// Of the ledger and the collected column, as the daily window last handed them back.
   std::array<std::vector<DayEntry>, 2> days;
   std::optional<InterestDetail> detail;
+  HandedInterest handed;
   std::optional<StatementResult> result;
 };
 
@@ -47,6 +54,11 @@ CheckOutcome ContinueSetup(StatementCheck& check, StatementSetup& choices);
 
 /// What decides the interest of the account that setup, tier table and entry describe.
 StatementAccount AccountOf(const StatementCheck& check);
+
+/// What a change of setup, tier table or entry does to what was worked out from them: days that the
+/// dates filled are counted again, and interest that Compute ADB handed back stands only beside the
+/// account that earned it.
+void FollowChanges(StatementCheck& check);
 
 /// "Compute ADB and Interest" of a column, up to the opening of the daily window. A notice does not
 /// keep the window from opening. The caller keeps a copy of the check for a cancel.

@@ -98,6 +98,11 @@ std::string InterestTypeText(const StatementEntry& entry) {
              : "Interest Amount (ADB Method)               :";
 }
 
+std::string InterestNoteText(const StatementEntry& entry) {
+  const bool ended = entry.txtIntAmt.workedOut && entry.txtIntAmt.IsEmpty();
+  return ended ? "terms changed: compute or enter again" : "";
+}
+
 StatementEntry PresentEntry(const StatementSetup& setup, StatementEntry entry) {
   if (LocksMethod(setup)) entry.method = BalanceMethod::DailyBalance;
   entry.txtIntRate.enabled = setup.kind == AccountKind::Regular;

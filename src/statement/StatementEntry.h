@@ -65,6 +65,9 @@ bool GivesInterest(BalanceBasis basis, BalanceColumn column);
 /// lblIntType: names the method by which the interest amount came about.
 std::string InterestTypeText(const StatementEntry& entry);
 
+/// lblIntNote: what stands beside an interest field that a change of the terms emptied; else empty.
+std::string InterestNoteText(const StatementEntry& entry);
+
 /// What the period window shows when it opens: the method that the account demands, a rate for
 /// regular accounts only, and the default daily rate factor in an empty field.
 StatementEntry PresentEntry(const StatementSetup& setup, StatementEntry entry);

@@ -27,34 +27,76 @@ constexpr std::string_view kLeavesUncounted[] = {"txtDateStart", "txtDateEnd",  
                                                  "mnuMain",      "mnuNewAccount", "mnuExit"};
 
 bool WantsDates(const Field& days, PeriodCaller caller) {
+  if (!days.enabled) return false;
   const std::string_view text = Trim(days.text);
-  return days.enabled && (text == "0" || (caller == PeriodCaller::Calendar && text.empty()));
+  return text == "0" || (caller == PeriodCaller::Calendar && text.empty()) ||
+         (caller == PeriodCaller::Button && days.workedOut);
 }
 
-void FillPeriod(StatementEntry& entry, PeriodCaller caller, int days) {
-  for (Field* field : {&entry.txtLedgerdays, &entry.txtColDays}) {
-    if (WantsDates(*field, caller)) field->text = FormatPlain(days);
+/// A date that is none is refused where it is needed. One that is half typed is refused wherever
+/// the period is acted on, so that no other date stands in for it.
+bool IsRefused(const Field& date, bool needed, PeriodCaller caller) {
+  const bool halfTyped = date.text != kEmptyDateMask && caller != PeriodCaller::DaysField;
+  return !ParseDate(date.text) && (needed || halfTyped);
+}
+
+std::optional<Refusal> CheckDates(const StatementEntry& entry, bool needed, PeriodCaller caller) {
+  const auto& messages = caller == PeriodCaller::DaysField ? kDaysFieldMessages : kMessages;
+  if (IsRefused(entry.txtDateStart, needed, caller)) {
+    return Refusal{messages.start, "txtDateStart"};
   }
+  if (IsRefused(entry.txtDateEnd, needed, caller)) return Refusal{messages.end, "txtDateEnd"};
+  return std::nullopt;
+}
+
+/// Days between the dates; nothing unless both are valid.
+std::optional<int> DaysOfDates(const YearRule& year, const StatementEntry& entry) {
+  const auto start = ParseDate(entry.txtDateStart.text);
+  const auto end = ParseDate(entry.txtDateEnd.text);
+  if (!start || !end) return std::nullopt;
+  return CalendarTermDays(*start, *end, year.countsLeapDay);
+}
+
+bool IsPeriod(std::optional<int> days) {
+  return days && *days >= 1 && *days <= kLongestPeriod;
 }
 
 }  // namespace
 
 std::optional<Refusal> CountPeriod(const YearRule& year, StatementEntry& entry,
                                    PeriodCaller caller) {
-  if (!WantsDates(entry.txtLedgerdays, caller) && !WantsDates(entry.txtColDays, caller)) {
-    return std::nullopt;
-  }
-  const auto& messages = caller == PeriodCaller::DaysField ? kDaysFieldMessages : kMessages;
-  const auto start = ParseDate(entry.txtDateStart.text);
-  if (!start) return Refusal{messages.start, "txtDateStart"};
-  const auto end = ParseDate(entry.txtDateEnd.text);
-  if (!end) return Refusal{messages.end, "txtDateEnd"};
-  const int days = CalendarTermDays(*start, *end, year.countsLeapDay);
-  if (days < 1 || days > kLongestPeriod) {
+  Field* const fields[] = {&entry.txtLedgerdays, &entry.txtColDays};
+  const auto wanting = [caller](const Field* days) { return WantsDates(*days, caller); };
+  const bool needed = std::ranges::any_of(fields, wanting);
+  if (auto refusal = CheckDates(entry, needed, caller)) return refusal;
+  if (!needed) return std::nullopt;
+  if (!IsPeriod(DaysOfDates(year, entry))) {
     entry.txtDateStart.text = entry.txtDateEnd.text = kEmptyDateMask;
+    RecountPeriod(year, entry);
+    const auto& messages = caller == PeriodCaller::DaysField ? kDaysFieldMessages : kMessages;
     return Refusal{messages.length, "txtDateStart"};
   }
-  FillPeriod(entry, caller, days);
+  for (Field* days : fields) days->workedOut |= wanting(days);
+  RecountPeriod(year, entry);
+  return std::nullopt;
+}
+
+void RecountPeriod(const YearRule& year, StatementEntry& entry) {
+  const auto days = DaysOfDates(year, entry);
+  for (Field* field : {&entry.txtLedgerdays, &entry.txtColDays}) {
+    if (field->workedOut) field->text = IsPeriod(days) ? FormatPlain(*days) : "";
+  }
+}
+
+std::optional<Refusal> DaysNotice(const YearRule& year, const StatementEntry& entry) {
+  const auto days = DaysOfDates(year, entry);
+  for (const Field* field : {&entry.txtLedgerdays, &entry.txtColDays}) {
+    const bool typed = field->enabled && !field->workedOut;
+    if (!days || !typed || field->Value() == *days) continue;
+    return Refusal{.text = "The dates count " + FormatPlain(*days) + " days; the entry is " +
+                           FormatPlain(field->Value()) + ".",
+                   .icon = MessageIcon::None};
+  }
   return std::nullopt;
 }
 

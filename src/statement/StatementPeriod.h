@@ -13,11 +13,20 @@ inline constexpr int kLongestPeriod = 96;
 /// What asks for the period to be counted; the messages differ.
 enum class PeriodCaller { Button, Calendar, DaysField };
 
-/// Fills every enabled days field that holds "0" (after the calendar also an empty one) with the
-/// days between the two dates, less the 29 Februaries that do not count. Refuses dates that are
-/// none, and a period of fewer than 1 or more than 96 days, whose dates are emptied.
+/// Fills every enabled days field that holds "0" (after the calendar also an empty one, for a
+/// button also one that the dates filled before) with the days between the two dates, less the 29
+/// Februaries that do not count. Refuses a date that is none where it is needed, one that is not
+/// empty either also beside typed days unless a days field asks, and a period of fewer than 1 or
+/// more than 96 days, whose dates are emptied.
 std::optional<Refusal> CountPeriod(const YearRule& year, StatementEntry& entry,
                                    PeriodCaller caller);
+
+/// Counts the days fields that the dates filled anew; they are empty while the dates give no
+/// period.
+void RecountPeriod(const YearRule& year, StatementEntry& entry);
+
+/// What is told of typed days that differ from two valid dates.
+std::optional<Refusal> DaysNotice(const YearRule& year, const StatementEntry& entry);
 
 /// The first day of the period: the start date where it is valid, else today.
 Date PeriodStart(const StatementEntry& entry, const Date& today);

@@ -64,6 +64,17 @@ TEST(DisclosedYield, SteppedAccountsAgreeWithTheReference) {
   }
 }
 
+TEST(DisclosedYield, PeriodsThatEarnLessThanHalfACentCount) {
+  // 100 (1 + 0.001 / 365) ^ 15 - 100 is 0.0041 in each of ten periods.
+  const Deposit period{
+      .balance = 0, .rate = 0.1, .term = 15, .factorDays = 365, .begin = {}, .withdrawals = {}};
+  const std::vector<Deposit> periods(10, period);
+  const AccountTerms daily{.compounding = {Unit::Days, 1}, .withdrawal = Unit::None, .year = {}};
+  const auto result = std::get<SteppedYield>(SteppedYieldOf(daily, 100, periods));
+  EXPECT_DOUBLE_EQ(result.whole.interest, 0.04);
+  EXPECT_DOUBLE_EQ(result.whole.apy, 0.10);
+}
+
 TEST(DisclosedYield, TierEndsByMethodBAgreeWithTheReference) {
   for (const CaseRow& row : ReadCases("tiers.csv")) {
     SCOPED_TRACE(row.line);
@@ -114,6 +125,8 @@ TEST(DisclosedYield, WhatBreaksAPreconditionOrHasNoFiniteResultIsNotComputable) 
       {"no factor", [](Example& e) { e.deposit.factorDays = 0; }},
       {"no term", [](Example& e) { e.deposit.term = 0; }},
       {"no interval", [](Example& e) { e.terms.compounding.length = 0; }},
+      {"a balance that no account has", [](Example& e) { e.deposit.balance = 1e13; }},
+      {"an APY that no account has", [](Example& e) { e.deposit.rate = 700; }},
       {"more than everything lost", [](Example& e) { e.deposit.rate = -50000; }},
       {"endless term", [](Example& e) { e.deposit.term = 1e308; }},
       {"withdrawals without a number", [](Example& e) { e.terms.withdrawal = Unit::Days; }},

@@ -33,19 +33,14 @@ def exponent(account, units):
     return Decimal(account.basis) / (units * (account.n if account.unit == "days" else 1))
 
 
-def counted_interest(earned):
-    """A period counts as soon as its figure shows more than 0.00."""
-    return sum((e for e in earned if dy.cents(e) > 0), Decimal(0))
-
-
 def row(account, rates, balance, terms):
     builds = account.unit != "none" and account.withdrawal == "none"
     earned, units = [], 0
     for rate, term in zip(rates, terms):
         factor, counted = period_factor(account, rate, term)
-        earned.append((balance + (counted_interest(earned) if builds else 0)) * factor)
+        earned.append((balance + (sum(earned) if builds else 0)) * factor)
         units += units_of(account, term, counted)
-    total = counted_interest(earned)
+    total = sum(earned)
     exact_apy = dy.apy(dy.cents(total), balance, exponent(account, units))
     if dy.near_half(total) or dy.near_half(exact_apy) or any(map(dy.near_half, earned)):
         return None

@@ -40,6 +40,8 @@ TEST(DisclosureReport, RegularShowsWhatWasTyped) {
   entry.txtBtwnReqIntWdrwl.text = "1";
   ExpectReport("disclosure_template.txt", "disclosure_regular.html", ContentOf(check));
   ExpectShippedReport(kDisclosureReport, "disclosure_shipped.html", ContentOf(check));
+  check.result->rows.front().verdict = Ok;
+  EXPECT_TRUE(FilledLines("^datarow^", check).front().ends_with("\"#000000\">OK</TD></TR>"));
 }
 
 DisclosureCheck SteppedCheck() {

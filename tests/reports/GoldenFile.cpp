@@ -9,7 +9,7 @@ namespace corvane {
 
 namespace {
 
-const std::filesystem::path kGolden = CORVANE_GOLDEN_FOLDER;
+const std::filesystem::path kGolden = CORVANE_TESTS "reports/golden";
 const std::filesystem::path kShipped = CORVANE_TEMPLATE_FOLDER;
 
 void ExpectFilled(const std::filesystem::path& templateFile, std::string_view expectedName,

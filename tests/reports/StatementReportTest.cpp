@@ -79,13 +79,15 @@ TEST(InterestReport, EveryDayOfAColumn) {
   DailyBalances daily;
   daily.column = BalanceColumn::Collected;
   daily.start = *ParseDate("02-28-2024");
-  daily.days = {{1000.5, 4}, {}, {-5, 4.1265}, {1234567.89, 4.5}};
+  daily.days = {{"1000.50", "4.00"}, {}, {"-5.00", "4.1265"}, {"1234567.89", "4.50"}};
   ExpectReport("interest_template.txt", "interest_collected.html",
                InterestReport(kHeader, TieredCheck(), daily, kToday));
   daily.column = BalanceColumn::Ledger;
   daily.start = *ParseDate("01-15-2024");
   daily.days.clear();
-  for (int day = 1; day <= 31; ++day) daily.days.push_back({1000 + day, day <= 20 ? 5.25 : 5.5});
+  for (int day = 1; day <= 31; ++day) {
+    daily.days.push_back({FormatFixed2(1000 + day), day <= 20 ? "5.25" : "5.50"});
+  }
   ExpectShippedReport(kInterestReport, "interest_shipped.html",
                       InterestReport(kHeader, RegularCheck(), daily, kToday));
 }

@@ -1,187 +1,123 @@
-#include <gtest/gtest.h>
+#include "statement/StatementCheck.h"
 
-#include "statement/EntryExamples.h"
+#include "CheckTable.h"
+#include "statement/EntryChecks.h"
 
 namespace corvane {
 namespace {
 
 using enum BalanceColumn;
 
-/// A person at the two windows; the account pays 0.01 % a day.
-class StatementCheckTest : public ::testing::Test, protected EntryExample {
- protected:
-  StatementCheckTest() { entry.txtIntRate.text = "3.65"; }
-
-  DailyBalances Open(BalanceColumn column) {
-    EXPECT_EQ(Told(StartCompute(*this, column).refusal), "");
-    return DaysOf(*this, column, *ParseDate("03-15-2026"));
+/// A person at the windows of a statement, without the windows. Days that no start dates begin on
+/// 15 March 2026.
+class Person {
+ public:
+  bool Put(const std::string& name, const std::string& text) {
+    if (corvane::Put(choices_, name, text)) return true;
+    if (corvane::Put(check_.entry, name, text)) return FollowChanges(check_), true;
+    const std::map<std::string, std::function<std::string()>> acts = {
+        {"Continue", [&] { return Continue(); }},
+        {"Ledger", [&] { return Compute(Ledger, text); }},
+        {"Collected", [&] { return Compute(Collected, text); }},
+        {"Cancel", [&] { return Cancel(text); }},
+        {"Calculate", [&] { return Said(CalculateStatement(check_)); }},
+        {"Check", [&] { return Said(CheckEntries(check_)); }},
+        {"Button", [&] { return Count(PeriodCaller::Button); }},
+        {"Calendar", [&] { return Count(PeriodCaller::Calendar); }},
+        {"DaysField", [&] { return Count(PeriodCaller::DaysField); }},
+        {"Factor", [&] { return Said(FactorChanged(check_.entry)); }},
+    };
+    const auto act = acts.find(name);
+    if (act == acts.end()) return false;
+    answer_ = act->second();
+    return true;
   }
-  DailyBalances OpenAndType(BalanceColumn column, const std::string& balance) {
-    DailyBalances daily = Open(column);
+
+  const std::string& Answer() const { return answer_; }
+
+  std::string Shown(const std::string& name) const {
+    const InterestDetail* detail = DetailOf(check_);
+    if (name == "detail") return detail ? detail->daily.days.back().balance : "none";
+    if (name == "start") return FormatDate(detail->daily.start);
+    if (name == "note") return InterestNoteText(check_.entry);
+    if (name == "Ledger") return FirstDay(Ledger);
+    if (name == "Collected") return FirstDay(Collected);
+    if (name == "factor") return FormatPlain(AccountOf(check_).factorDays);
+    if (name == "result") return Result();
+    const std::string chosen = ShownBy(choices_, name);
+    return chosen.starts_with("no control") ? ShownBy(check_.entry, name) : chosen;
+  }
+
+ private:
+  /// Goes on to the period window.
+  std::string Continue() {
+    const CheckOutcome outcome = ContinueSetup(check_, choices_);
+    if (!outcome.refusal) check_.entry = PresentEntry(check_.setup, check_.entry);
+    FollowChanges(check_);
+    return Said(outcome);
+  }
+
+  DailyBalances DaysOf(const StatementCheck& check, BalanceColumn column) const {
+    return corvane::DaysOf(check, column, *ParseDate("03-15-2026"));
+  }
+
+  DailyBalances TypedDays(BalanceColumn column, const std::string& balance) const {
+    DailyBalances daily = DaysOf(check_, column);
     for (std::size_t day = 0; day < daily.days.size(); ++day) TakeDay(daily, day, {balance, ""});
     return daily;
   }
-  /// What the entry window then shows for average and interest.
-  std::string Compute(BalanceColumn column, const char* balance) {
-    const DailyBalances daily = OpenAndType(column, balance);
-    FinishCompute(*this, daily, std::get<ComputedDays>(ComputeAdb(daily)));
-    return entry.Average(column).text + " " + entry.txtIntAmt.text;
+
+  /// Types the balance into all days of a column.
+  std::string Compute(BalanceColumn column, const std::string& balance) {
+    const CheckOutcome outcome = StartCompute(check_, column);
+    if (outcome.refusal) return Said(outcome);
+    const DailyBalances daily = TypedDays(column, balance);
+    const auto computed = ComputeAdb(daily);
+    if (const auto* refusal = std::get_if<Refusal>(&computed)) return Said(*refusal);
+    FinishCompute(check_, daily, std::get<ComputedDays>(computed));
+    return Said(outcome);
   }
-  std::string Calculated() { return Told(CalculateStatement(*this).refusal); }
-  /// Balance and rate that the daily window shows for the first day.
-  std::string Reopened(BalanceColumn column, const char* period = "30") {
-    entry.txtLedgerdays.text = period;
-    const DayTexts first = TextsOfDay(Open(column), 0);
+
+  /// Types it and closes the window by its frame.
+  std::string Cancel(const std::string& balance) {
+    const StatementCheck before = check_;
+    const CheckOutcome outcome = StartCompute(check_, Ledger);
+    check_ = CancelledCompute(before, TypedDays(Ledger, balance));
+    return Said(outcome);
+  }
+
+  std::string Count(PeriodCaller caller) {
+    const YearRule& year = check_.setup.year;
+    const auto refusal = CountPeriod(year, check_.entry, caller);
+    return Said(refusal ? refusal : DaysNotice(year, check_.entry));
+  }
+
+  /// What the daily window would open with.
+  std::string FirstDay(BalanceColumn column) const {
+    const DayEntry first = DaysOf(check_, column).days.at(0);
     return first.balance + " " + first.rate;
   }
+
+  /// Interest, APY earned and verdict.
+  std::string Result() const {
+    if (!check_.result) return "none";
+    const auto& [interest, apy, verdict] = *check_.result;
+    return FormatPlain(interest) + " " + FormatPlain(apy) +
+           (verdict == Verdict::Ok ? " OK" : " VIOLATION");
+  }
+
+  StatementCheck check_;
+  StatementSetup choices_;
+  std::string answer_;
 };
 
-TEST_F(StatementCheckTest, TheMinimumsDecideWhatIsHandedBack) {
-  Minimums("100", "50");
-  EXPECT_EQ(Compute(Ledger, "1000"), "1000.00 3.00");
-  entry.method = BalanceMethod::DailyBalance;
-  EXPECT_EQ(Compute(Ledger, "1000"), "1000.00 0.00") << "the daily method withholds it";
-  Minimums("0", "500");
-  EXPECT_EQ(Compute(Ledger, "499.99"), "499.99 ") << "below a sole daily minimum it is typed";
-}
-
-TEST_F(StatementCheckTest, TheLedgerAverageLeavesTheCollectedInterestAlone) {
-  ChooseLedgerEqualsCollected(entry, false);
-  entry.txtLedgerdays.text = "30";
-  EXPECT_EQ(Compute(Collected, "1000"), "1000.00 3.00");
-  EXPECT_EQ(Compute(Ledger, "2000"), "2000.00 3.00");
-  EXPECT_EQ(Reopened(Ledger) + " " + Reopened(Collected), "2000.00 3.65 1000.00 3.65");
-  entry.method = BalanceMethod::DailyBalance;
-  Minimums("0", "500");
-  EXPECT_EQ(Compute(Collected, "499.99"), "499.99 0.00") << "the average is the ledger's";
-}
-
-TEST_F(StatementCheckTest, ACancelLeavesTheFiguresAndTheDetailOfDaysThatFit) {
-  Compute(Ledger, "1000");
-  entry.txtIntAmt.text = "7.77";
-  const auto cancelled = [this] {
-    const StatementCheck before = *this;
-    return CancelledCompute(before, OpenAndType(Ledger, "5"));
-  };
-  StatementCheck after = cancelled();
-  EXPECT_EQ(after.entry.txtIntAmt.text, "7.77");
-  ASSERT_TRUE(DetailOf(after));
-  EXPECT_EQ(after.detail->daily.days[29].balance, 1000);
-  entry.txtLedgerdays.text = "0";
-  entry.txtDateStart.text = "01-01-2024";
-  entry.txtDateEnd.text = "02-01-2024";
-  after = cancelled();
-  EXPECT_EQ(after.entry.txtLedgerdays.text, "31") << "the days stay counted";
-  EXPECT_FALSE(after.detail) << "the days opened were new ones";
-}
-
-TEST_F(StatementCheckTest, TheDaysComeBackUntilTheirNumberChanges) {
-  Compute(Ledger, "1000");
-  entry.txtIntRate.text = "7.3";
-  EXPECT_EQ(Reopened(Ledger), "1000.00 7.30");
-  EXPECT_EQ(Reopened(Ledger, "29"), " ");
-  Compute(Ledger, "");
-  EXPECT_EQ(Reopened(Ledger, "29"), "0.00 7.30") << "what was left empty counted as 0";
-}
-
-TEST_F(StatementCheckTest, ASteppedAccountRefusesAMinimumAdbAlone) {
-  Become(AccountKind::Stepped);
-  setup.additionalFormula = true;
-  Minimums("100", "0");
-  EXPECT_EQ(Told(StartCompute(*this, Ledger).refusal),
-            "                       For Variable Rate Accounts\n"
-            "Minimum ADB > 0 and Minimum Daily Balance = 0 is invalid\n"
-            "                             Please try again @ txtMinADB");
-  EXPECT_EQ(entry.txtIntAmt.text, "12.50") << "nothing typed is lost";
-  EXPECT_EQ(Calculated(),
-            "For Variable Rate Accounts\n"
-            "Minimum ADB > 0 and Minimum Daily Balance = 0 is invalid\n"
-            "Please try again @ txtMinADB");
-}
-
-TEST_F(StatementCheckTest, ShowDetailNeedsTheDaysOfTheFiguresInUse) {
-  const std::pair<const char*, void (*)(StatementCheck&)> changes[] = {
-      {"average", [](auto& c) { c.entry.txtADBLedgerBalance.text = "1000.01"; }},
-      {"days", [](auto& c) { c.entry.txtLedgerdays.text = "31"; }},
-      {"rate", [](auto& c) { c.entry.txtIntRate.text = "3.66"; }},
-      {"factor", [](auto& c) { c.entry.txtDRFactor.text = "1/360"; }},
-      {"minimum", [](auto& c) { c.entry.txtMinADB.text = "1"; }},
-      {"method", [](auto& c) { c.entry.method = BalanceMethod::DailyBalance; }},
-      {"kind", [](auto& c) { c.setup.kind = AccountKind::TierB; }},
-      {"compounding", [](auto& c) { ChooseCompounding(c.setup, Unit::Days); }},
-  };
-  Compute(Ledger, "1000");
-  EXPECT_EQ(detail->daily.start, ParseDate("03-15-2026")) << "no start was typed";
-  entry.txtDateStart.text = "01-01-2024";
-  EXPECT_EQ(Calculated(), "");
-  ASSERT_TRUE(DetailOf(*this));
-  EXPECT_EQ(DetailOf(*this)->daily.start, ParseDate("01-01-2024"));
-  for (const auto& [what, change] : changes) {
-    StatementCheck changed = *this;
-    change(changed);
-    EXPECT_FALSE(DetailOf(changed)) << what;
-  }
-  ChooseLedgerEqualsCollected(entry, false);
-  entry.txtLedgerdays.text = "30";
-  entry.txtADBLedgerBalance.text = "1000.00";
-  EXPECT_FALSE(DetailOf(*this)) << "another basis";
-}
-
-TEST_F(StatementCheckTest, ARateFollowsItsBalance) {
-  DailyBalances daily = Open(Ledger);
-  EXPECT_EQ(EnterBalance(daily, 0, "-5").rate, "3.65");
-  EXPECT_EQ(EnterBalance(daily, 0, "0").rate, "") << "a zero balance shows no rate";
-  EXPECT_EQ(EnterBalance(daily, 0, "-").balance, "-") << "left as typed";
-}
-
-TEST_F(StatementCheckTest, BalancesBeyondAnyNumberAreRefused) {
-  entry.method = BalanceMethod::DailyBalance;  // only the average is too large
-  const auto computed = ComputeAdb(OpenAndType(Ledger, std::string(308, '9')));
-  EXPECT_EQ(Told(std::get<Refusal>(computed)),
-            "The entries give a result that cannot be computed. Please correct them. @ ");
-}
-
-TEST_F(StatementCheckTest, TheCollectedAverageTakesItsColumnAndTheInterestIsRounded) {
-  setup.year.countsLeapDay = true;
-  ChooseLedgerEqualsCollected(entry, false);
-  ChooseLedgerAdb(entry, false);
-  entry.txtColDays.text = "30";
-  EXPECT_EQ(Calculated(),
-            "Please enter an ADB Collected balance > 0 to continue @ txtADBCollectedBalance");
-  entry.txtADBCollectedBalance.text = "1000";
-  entry.txtIntAmt.text = "5.245";
-  EXPECT_EQ(Calculated(), "");
-  EXPECT_EQ(result->interest, 5.24) << "an exact half goes to the even cent";
-  // 100 x (1.00524 ^ (366 / 30) - 1) = 6.5837...
-  EXPECT_EQ(result->apy, 6.58);
-  EXPECT_EQ(result->verdict, Verdict::Violation) << "1.53 is disclosed";
-}
-
-TEST_F(StatementCheckTest, CalculateRefusesInItsOrder) {
-  EXPECT_EQ(Calculated(), "");
-  entry.txtMinADB.text = "x";
-  entry.txtIntAmt.text = "";
-  entry.txtADBLedgerBalance.text = "0";
-  // Each row sets a field; the period comes before the other fields, their checks before the
-  // results'.
-  const std::tuple<Field&, const char*, const char*> rows[] = {
-      {entry.txtLedgerdays, "0", "Starting Date is invalid, Please correct @ txtDateStart"},
-      {entry.txtLedgerdays, "1", "Please enter a valid Minimum ADB amount or Zero @ txtMinADB"},
-      {entry.txtMinADB, "0",
-       "Please enter an ADB Ledger balance > 0 to continue @ txtADBLedgerBalance"},
-      {entry.txtADBLedgerBalance, "0.01",
-       "Please enter a valid interest for ADB Method @ txtIntAmt"},
-      {entry.txtIntAmt, "99999999",
-       "The entries give a result that cannot be computed. Please correct them. @ txtIntAmt"},
-  };
-  for (const auto& [field, text, told] : rows) {
-    field.text = text;
-    EXPECT_EQ(Calculated(), told);
-    EXPECT_FALSE(result) << told;
-  }
-  entry.method = BalanceMethod::DailyBalance;
-  entry.txtIntAmt.text = "-1";
-  EXPECT_EQ(Calculated(), "Please enter a valid interest in for Daily Balance Method @ txtIntAmt");
+TEST(StatementCheck, AgreesWithItsTable) {
+  Person person;
+  RunChecks("statement/StatementChecks.txt",
+            {.begin = [&] { person = {}; },
+             .put = [&](auto& name, auto& text) { return person.Put(name, text); },
+             .said = [&] { return person.Answer(); },
+             .shown = [&](auto& name) { return person.Shown(name); }});
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ void WindowTest::SetUp() {
 }
 
 void WindowTest::TearDown() {
-  for (const ExpectedBox& box : expected_) ADD_FAILURE() << "box never shown: " << box.text;
+  for (const ExpectedBox& box : boxes) ADD_FAILURE() << "box never shown: " << box.text;
   SetMessageBoxObserver({});
   SetSaveAnswer({});
   SetToday({});
@@ -21,13 +21,13 @@ void WindowTest::TearDown() {
 
 void WindowTest::Answer(QMessageBox& box) {
   const std::string text = box.text().toStdString();
-  if (expected_.empty()) {
+  if (boxes.empty()) {
     ADD_FAILURE() << "unexpected box: " << text;
     box.reject();
     return;
   }
-  const ExpectedBox expected = expected_.front();
-  expected_.pop_front();
+  const ExpectedBox expected = boxes.front();
+  boxes.pop_front();
   EXPECT_EQ(text, expected.text);
   EXPECT_EQ(box.windowTitle().toStdString(), expected.title) << text;
   const auto icon = expected.icon == MessageIcon::None ? QMessageBox::NoIcon : QMessageBox::Warning;
@@ -44,6 +44,10 @@ void WindowTest::Activate() const {
 }
 
 void WindowTest::Type(const QString& field, const QString& text) {
+  if (auto* list = front_->findChild<QComboBox*>(field)) {
+    list->setFocus();
+    return QTest::keyClicks(list, text);
+  }
   auto* edit = Get<QLineEdit>(field);
   if (!edit) return;
   Activate();
@@ -68,7 +72,7 @@ void WindowTest::Key(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 void WindowTest::Click(const QString& button) {
-  auto* control = Get<QAbstractButton>(button);
+  auto* control = Get<QWidget>(button);
   if (!control) return;
   Activate();
   ASSERT_TRUE(control->isVisible() && control->isEnabled()) << button.toStdString();

@@ -28,7 +28,7 @@ class WindowTest : public ::testing::Test {
   void TearDown() override;
 
   /// The boxes that the following acts will raise, in order.
-  void Expect(ExpectedBox box) { expected_.push_back(std::move(box)); }
+  void Expect(ExpectedBox box) { boxes.push_back(std::move(box)); }
   void ExpectText(const std::string& text) { Expect({.text = text}); }
 
   /// Makes the form the one that the following acts are done in, waiting until it is in front.
@@ -36,10 +36,14 @@ class WindowTest : public ::testing::Test {
   AForm& InFront() {
     EXPECT_TRUE(QTest::qWaitFor([this] { return IsVisible<AForm>(); })) << "window is not shown";
     AForm& form = windows.Get<AForm>();
-    front_ = &form;
-    Activate();
+    StandIn(form);
     return form;
   }
+  void StandIn(Form& form) {
+    front_ = &form;
+    Activate();
+  }
+  Form* Front() const { return front_; }
 
   template <class AForm>
   bool IsVisible() const {
@@ -54,7 +58,8 @@ class WindowTest : public ::testing::Test {
     return control;
   }
 
-  /// Clicks into the field, selects what it holds and types the text over it, or deletes it.
+  /// Clicks into the field, selects what it holds and types the text over it, or deletes it;
+  /// from a list it picks by typing.
   void Type(const QString& field, const QString& text);
   /// Types into the control that has the focus.
   void Keys(const QString& text);
@@ -75,7 +80,7 @@ class WindowTest : public ::testing::Test {
   }
   /// Waits for the boxes that an access key raises, because its button first shows itself pressed.
   void AwaitBoxes() {
-    EXPECT_TRUE(QTest::qWaitFor([this] { return expected_.empty(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return boxes.empty(); }));
   }
   /// Closes the window in front by its frame.
   void CloseByFrame() { front_->close(); }
@@ -90,6 +95,7 @@ class WindowTest : public ::testing::Test {
 
   Session session;
   WindowRegistry windows{session};
+  std::deque<ExpectedBox> boxes;  ///< that are expected and have not come
 
  private:
   void Answer(QMessageBox& box);
@@ -98,7 +104,6 @@ class WindowTest : public ::testing::Test {
   void Activate() const;
 
   QPointer<Form> front_;
-  std::deque<ExpectedBox> expected_;
 };
 
 }  // namespace corvane

@@ -54,7 +54,9 @@ void DisclosureEntryWindow::BindFields() {
   BindNumeric(ui_->txtTerm, {.enterMovesOn = true});
   BindNumeric(ui_->txtTierPerNum, {.digitsOnly = true});
   RewriteOnLeaving(ui_->txtBal);
-  connect(ui_->txtTerm, &QLineEdit::textChanged, this, [this] { EnableCalendars(); });
+  for (QLineEdit* date : {ui_->tStartDate, ui_->tEndDate}) {
+    connect(date, &QLineEdit::textChanged, this, [this] { Date_Change(); });
+  }
   connect(ui_->txtTerm, &QLineEdit::textEdited, this, [this] { termEdited_ = true; });
   OnLostFocus(ui_->txtTerm, [this](const QString& next) { txtTerm_LostFocus(next); });
   OnLostFocus(ui_->txtTierPerNum, [this](const QString& next) { txtTierPerNum_LostFocus(next); });
@@ -67,12 +69,6 @@ void DisclosureEntryWindow::BindButtons() {
     calendar->setIcon(CalendarIcon());
     OnClick(calendar, [this, index] { ImgCalendar_Click(index); });
     termDates_.push_back(calendar);
-  }
-  for (QWidget* control : termDates_) {
-    OnLostFocus(control, [this](const QString& next) {
-      const auto isNext = [&next](QWidget* part) { return part->objectName() == next; };
-      if (std::none_of(termDates_.begin(), termDates_.end(), isNext)) WriteCountedTerm();
-    });
   }
   OnClick(ui_->cmdSetProperties, [this] { cmdSetProperties_Click(); });
   OnClick(ui_->cmdCalculateResult, [this] { Attempt(); });
@@ -99,6 +95,7 @@ void DisclosureEntryWindow::Form_Activate() {
 void DisclosureEntryWindow::cmdSetProperties_Click() {
   const DisclosureCheck& check = session().disclosure;
   entry_ = PresentEntry(check);
+  if (entry_.txtTerm.workedOut) CountTerm(check.setup, entry_);
   ShowCaptions();
   ShowGroups();
   binding_->Show();
@@ -122,6 +119,8 @@ void DisclosureEntryWindow::ShowCaptions() {
   };
   for (const auto& [label, text] : labels) label->setText(QString::fromStdString(text));
   ui_->frmPeriodNumber->setTitle(QString::fromStdString(captions.frmPeriodNumber));
+  ui_->txtTerm->setToolTip(QString::fromStdString(captions.txtTermTip));
+  ui_->txtBtwnReqIntWdrwl->setToolTip(QString::fromStdString(captions.txtBtwnReqIntWdrwlTip));
 }
 
 void DisclosureEntryWindow::ShowGroups() {
@@ -145,7 +144,7 @@ void DisclosureEntryWindow::EnableCalendars() {
 void DisclosureEntryWindow::txtTerm_LostFocus(const QString& next) {
   const bool edited = std::exchange(termEdited_, false);
   const Field& term = entry_.txtTerm;
-  const bool isZero = !term.IsEmpty() && AsksForCalendar(term);
+  const bool isZero = term.IsNumber() && term.Value() == 0;
   if (isZero && !HasCalendar(session().disclosure.setup) && !LeavesWindow(next)) {
     Tell({"For Interest Compounding Months or Years, please enter valid term"});
     HoldFocus(ui_->txtTerm);
@@ -163,25 +162,27 @@ void DisclosureEntryWindow::txtTierPerNum_LostFocus(const QString& next) {
   HoldFocus(ui_->txtTierPerNum);
 }
 
-void DisclosureEntryWindow::WriteCountedTerm() {
-  const DisclosureSetup& setup = session().disclosure.setup;
-  if (!TermOf(setup, entry_).fromCalendar) return;
-  if (const auto term = CountedTermText(setup, entry_)) SetText(ui_->txtTerm, *term);
+void DisclosureEntryWindow::Date_Change() {
+  if (binding_->IsShowing()) return;
+  CountTerm(session().disclosure.setup, entry_);
+  binding_->Show();
 }
 
 void DisclosureEntryWindow::ImgCalendar_Click(int index) {
   QLineEdit* field = index == 0 ? ui_->tStartDate : ui_->tEndDate;
   const Date from = ParseDate(TextOf(field)).value_or(Today());
   const auto picked = windows().Get<CalendarPopup>().PickDate(from);
-  if (picked) SetText(field, FormatDate(*picked));
+  if (!picked) return;
+  SetText(field, FormatDate(*picked));
+  Date_Change();
   if (!ParseDate(entry_.tStartDate.text)) {
-    return Tell({"Starting Date is invalid, Please correct", "tStartDate"});
+    Tell({"Starting Date is invalid, Please correct", "tStartDate"});
   }
-  WriteCountedTerm();
 }
 
 void DisclosureEntryWindow::Attempt() {
   if (IsRateMissing(entry_)) return InternalError();
+  CountTerm(session().disclosure.setup, entry_);
   const AttemptOutcome outcome = AttemptCalculation(session().disclosure, entry_);
   binding_->Show();
   if (outcome.refusal) return Tell(*outcome.refusal);

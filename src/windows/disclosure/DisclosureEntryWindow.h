@@ -30,6 +30,7 @@ class DisclosureEntryWindow : public Form {
   void cmdSetProperties_Click();
   void txtTerm_LostFocus(const QString& next);
   void txtTierPerNum_LostFocus(const QString& next);
+  void Date_Change();
   void ImgCalendar_Click(int index);
   /// Next and Calculate are one attempt; which of them shows says what follows it.
   void Attempt();
@@ -38,7 +39,6 @@ class DisclosureEntryWindow : public Form {
   void ShowCaptions();
   void ShowGroups();
   void EnableCalendars();
-  void WriteCountedTerm();
   void InternalError();
 
   std::unique_ptr<Ui::DisclosureEntryWindow> ui_;

@@ -41,7 +41,8 @@ void TierTableWindow::BindRow(int tier) {
   auto* rate = Box("txtInt", tier);
   BindNumeric(rate, {.decimals = 4, .kind = "int"});
   SelectTextOnFocus(rate);
-  connect(rate, &QLineEdit::textEdited, this, [this, tier] { txtInt_Emptied(tier); });
+  connect(rate, &QLineEdit::textEdited, this, [this] { rateEdited_ = true; });
+  OnLostFocus(rate, [this, tier](const QString& next) { txtInt_LostFocus(tier, next); });
   if (tier == kMostTiers) return;
   auto* bound = Box("txt_bne", tier);
   BindNumeric(bound, {.repairMinus = true, .decimals = 2, .kind = "bal"});
@@ -109,10 +110,14 @@ void TierTableWindow::cboTotalTiers_Click() {
   ui_->cmdCalculate->setEnabled(ChosenCount() > 0);
 }
 
-void TierTableWindow::txtInt_Emptied(int tier) {
-  if (!Box("txtInt", tier)->text().isEmpty() || ChosenCount() == 0) return;
-  Tell(
-      {"Please input Interest Rate for Tier " + std::to_string(tier), ElementName("txtInt", tier)});
+void TierTableWindow::txtInt_LostFocus(int tier, const QString& next) {
+  // Continue has a message of its own, and nothing is demanded on the way out.
+  static const QStringList silent = {"cmdCalculate", "cmdBack", "cmdExit", "mnuMain", "mnuExit"};
+  auto* rate = Box("txtInt", tier);
+  const bool emptied = std::exchange(rateEdited_, false) && rate->text().isEmpty();
+  if (!emptied || silent.contains(next)) return;
+  Tell({"Please input Interest Rate for Tier " + std::to_string(tier)});
+  HoldFocus(rate);
 }
 
 void TierTableWindow::txt_bne_LostFocus(int tier) {

@@ -27,7 +27,7 @@ class TierTableWindow : public Form {
   void BindRow(int tier);
   void ShowRows();
   void cboTotalTiers_Click();
-  void txtInt_Emptied(int tier);
+  void txtInt_LostFocus(int tier, const QString& next);
   void txt_bne_LostFocus(int tier);
   void cmdCalculate_Click();
 
@@ -37,6 +37,7 @@ class TierTableWindow : public Form {
   void WriteBoxes(const TierTable& table);
 
   std::unique_ptr<Ui::TierTableWindow> ui_;
+  bool rateEdited_ = false;
 };
 
 }  // namespace corvane

@@ -18,9 +18,14 @@ namespace corvane {
 template <class Values>
 class FieldBinding {
  public:
-  /// `onShown` is called after every showing, for what the window draws from the values besides.
-  FieldBinding(QWidget& window, Values& values, std::function<void()> onShown)
-      : window_(window), values_(values), onShown_(std::move(onShown)) {
+  /// `onShown` is called after every showing, for what the window draws from the values besides;
+  /// `onChanged` after every change by the person, for what follows from it in the values.
+  FieldBinding(QWidget& window, Values& values, std::function<void()> onShown,
+               std::function<void()> onChanged = nullptr)
+      : window_(window),
+        values_(values),
+        onShown_(std::move(onShown)),
+        onChanged_(std::move(onChanged)) {
     for (const auto& name : Values::Fields()) BindField(name);
     for (const auto& name : Values::Options()) BindOption(name);
   }
@@ -46,7 +51,10 @@ class FieldBinding {
   void BindField(const FieldName<Values>& name) {
     auto* edit = Find<QLineEdit>(name.control);
     QObject::connect(edit, &QLineEdit::textChanged, &window_, [this, edit, field = name.field] {
-      if (!showing_) (values_.*field).text = TextOf(edit);
+      if (showing_) return;
+      (values_.*field).text = TextOf(edit);
+      (values_.*field).workedOut = false;
+      Changed();
     });
   }
 
@@ -56,8 +64,13 @@ class FieldBinding {
                      [this, choose = name.choose](bool chosen) {
                        if (!chosen || showing_) return;
                        choose(values_);
-                       Show();
+                       Changed();
                      });
+  }
+
+  void Changed() {
+    if (onChanged_) onChanged_();
+    Show();
   }
 
   void ShowOption(const OptionName<Values>& name) {
@@ -79,6 +92,7 @@ class FieldBinding {
   QWidget& window_;
   Values& values_;
   std::function<void()> onShown_;
+  std::function<void()> onChanged_;
   bool showing_ = false;
 };
 

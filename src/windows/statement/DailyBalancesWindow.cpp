@@ -108,8 +108,7 @@ void DailyBalancesWindow::Edit(DailyBalances& daily, std::optional<ComputedDays>
 }
 
 void DailyBalancesWindow::LeaveForPage(int page) {
-  TakePage();
-  GoToPage(page);
+  if (TakePage()) GoToPage(page);
 }
 
 void DailyBalancesWindow::GoToPage(int page) {
@@ -128,9 +127,8 @@ void DailyBalancesWindow::ShowPage() {
 void DailyBalancesWindow::ShowRow(std::size_t row, std::size_t day) {
   const Row& controls = rows_[row];
   const bool exists = day < daily_->days.size();
-  const DayTexts texts = exists ? TextsOfDay(*daily_, day) : DayTexts{};
-  const Date date = AddDays(daily_->start, static_cast<int>(day));
-  const QString label = QString::fromStdString(FormatMonthDay(date));
+  const DayEntry texts = exists ? daily_->days[day] : DayEntry{};
+  const QString label = QString::fromStdString(DayLabel(*daily_, day));
   controls.label->setText(label);
   controls.label->setVisible(exists);
   controls.balance->setVisible(exists);
@@ -142,9 +140,12 @@ void DailyBalancesWindow::ShowRow(std::size_t row, std::size_t day) {
   SetText(controls.rate, texts.rate);
 }
 
-void DailyBalancesWindow::TakePage() {
+bool DailyBalancesWindow::TakePage() {
   const DaySpan span = ShownDays();
   for (std::size_t day = span.first; day < span.end; ++day) TakeRow(day - span.first, day);
+  const auto refusal = CheckPage(*daily_, page_);
+  if (refusal) Tell(*refusal);
+  return !refusal;
 }
 
 void DailyBalancesWindow::TakeRow(std::size_t row, std::size_t day) {
@@ -153,17 +154,22 @@ void DailyBalancesWindow::TakeRow(std::size_t row, std::size_t day) {
 
 void DailyBalancesWindow::txtDayBal_LostFocus(std::size_t row) {
   const std::size_t day = ShownDays().first + row;
-  const DayTexts texts = EnterBalance(*daily_, day, TextOf(rows_[row].balance));
-  SetText(rows_[row].balance, texts.balance);
-  SetText(rows_[row].rate, texts.rate);
+  EnterBalance(*daily_, day, TextOf(rows_[row].balance));
+  ShowRow(row, day);
 }
 
 void DailyBalancesWindow::txtRate_LostFocus(std::size_t row) {
   TakeRow(row, ShownDays().first + row);
 }
 
+bool DailyBalancesWindow::AcceptsEmptyDays() {
+  const auto question = EmptyDaysQuestion(*daily_);
+  return !question ||
+         AskYesNo(this, QString::fromStdString(*question), kProgramTitle, QMessageBox::No);
+}
+
 void DailyBalancesWindow::cmdContinue_Click() {
-  TakePage();
+  if (!TakePage() || !AcceptsEmptyDays()) return;
   FillRates(*daily_);
   auto computed = ComputeAdb(*daily_);
   if (const auto* refusal = std::get_if<Refusal>(&computed)) {
@@ -180,7 +186,7 @@ void DailyBalancesWindow::cmdClear_Click() {
 }
 
 void DailyBalancesWindow::cmdPrint_Click() {
-  TakePage();
+  if (!TakePage()) return;
   FillRates(*daily_);
   ShowPage();
   routes().ShowInterestReport(*daily_);

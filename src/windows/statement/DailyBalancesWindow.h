@@ -50,7 +50,9 @@ class DailyBalancesWindow : public Form {
   void GoToPage(int page);
   void ShowPage();
   void ShowRow(std::size_t row, std::size_t day);
-  void TakePage();
+  /// Takes what stands on the page, or tells why it cannot be left.
+  bool TakePage();
+  bool AcceptsEmptyDays();
   void TakeRow(std::size_t row, std::size_t day);
   DaySpan ShownDays() const { return DaysOnPage(page_, daily_->days.size()); }
 

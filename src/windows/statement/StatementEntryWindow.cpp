@@ -19,8 +19,8 @@ constexpr int kHelpContext = 9;
 StatementEntryWindow::StatementEntryWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::StatementEntryWindow>()) {
   ui_->setupUi(this);
-  binding_ =
-      std::make_unique<FieldBinding<StatementEntry>>(*this, Entry(), [this] { ShowGroups(); });
+  binding_ = std::make_unique<FieldBinding<StatementEntry>>(
+      *this, Entry(), [this] { ShowGroups(); }, [this] { FollowChanges(session().statement); });
   BindFields();
   BindButtons();
 }
@@ -71,6 +71,7 @@ void StatementEntryWindow::Form_Load() {
   ui_->lblAccountInfo->setText(QString::fromStdString(AccountInfoText(setup)));
   ui_->lblAddAPY->setVisible(setup.additionalFormula);
   Entry() = PresentEntry(setup, Entry());
+  FollowChanges(session().statement);
   binding_->Show();
 }
 
@@ -85,6 +86,9 @@ void StatementEntryWindow::ShowGroups() {
   ui_->cmdComputeLADB->setEnabled(entry.txtADBLedgerBalance.enabled);
   ui_->cmdComputeCADB->setEnabled(entry.txtADBCollectedBalance.enabled);
   ui_->lblIntType->setText(QString::fromStdString(InterestTypeText(entry)));
+  const std::string note = InterestNoteText(entry);
+  ui_->lblIntNote->setText(QString::fromStdString(note));
+  ui_->lblIntNote->setVisible(!note.empty());
 }
 
 void StatementEntryWindow::txtDRFactor_Change() {
@@ -126,8 +130,13 @@ void StatementEntryWindow::ImgCalendar_Click() {
 bool StatementEntryWindow::Passes(const CheckOutcome& outcome) {
   binding_->Show();
   if (outcome.notice) Tell(*outcome.notice);
-  if (outcome.refusal) Tell(*outcome.refusal);
-  return !outcome.refusal;
+  if (outcome.refusal) {
+    Tell(*outcome.refusal);
+    return false;
+  }
+  const StatementCheck& check = session().statement;
+  if (const auto notice = DaysNotice(check.setup.year, check.entry)) Tell(*notice);
+  return true;
 }
 
 void StatementEntryWindow::Compute_Click(BalanceColumn column) {

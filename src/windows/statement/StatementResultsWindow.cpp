@@ -45,10 +45,7 @@ ReportContent StatementResultsWindow::Content() {
 }
 
 void StatementResultsWindow::cmdDetail_Click() {
-  const StatementCheck& check = session().statement;
-  DailyBalances daily = DetailOf(check)->daily;
-  daily.start = PeriodStart(check.entry, Today());
-  routes().ShowInterestReport(daily);
+  routes().ShowInterestReport(DetailOf(session().statement)->daily);
 }
 
 }  // namespace corvane

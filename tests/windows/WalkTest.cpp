@@ -1,0 +1,306 @@
+#include "windows/WindowTest.h"
+#include "windows/start/MainMenu.h"
+
+namespace corvane {
+namespace {
+
+/// A line of a walk, and the lines indented below it.
+struct Step {
+  int line = 0;
+  QString text;
+  std::vector<Step> block;
+};
+
+void AddStep(std::vector<Step>& steps, qsizetype depth, Step step) {
+  if (depth == 0 || steps.empty()) return steps.push_back(std::move(step));
+  AddStep(steps.back().block, depth - 1, std::move(step));
+}
+
+std::vector<Step> ReadWalk(const QString& path) {
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  std::vector<Step> steps;
+  int number = 0;
+  for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
+    const QString text = line.trimmed();
+    ++number;
+    if (text.isEmpty() || text.startsWith('#')) continue;
+    AddStep(steps, line.indexOf(text) / 2, {number, text, {}});
+  }
+  return steps;
+}
+
+bool IsRow(const Step& step) {
+  return step.text.startsWith('|');
+}
+
+bool IsIn(const Step& step) {
+  return step.text.startsWith("in ");
+}
+
+/// The steps of a block with the cells of a row in place of the names of their columns. A step
+/// that loses a word to an empty cell is left out.
+std::vector<Step> Filled(const std::vector<Step>& block, const QStringList& names,
+                         const QStringList& cells) {
+  std::vector<Step> filled;
+  for (Step step : block) {
+    const auto words = QProcess::splitCommand(step.text).size();
+    for (qsizetype i = 0; i < names.size(); ++i) step.text.replace('{' + names[i] + '}', cells[i]);
+    step.block = Filled(step.block, names, cells);
+    if (QProcess::splitCommand(step.text).size() >= words) filled.push_back(step);
+  }
+  return filled;
+}
+
+/// What the cells below a heading of a report's tables show.
+QStringList ReportColumn(const QString& report, const QString& heading) {
+  static const QRegularExpression part(
+      "<(table|tr|t[hd])\\b[^>]*>(.*?)(?=<table|</?t[rhd]\\b|</table)",
+      QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+  static const QRegularExpression markup("<[^>]*>|&nbsp;");
+  QStringList headings, column;
+  qsizetype cell = 0;
+  for (const auto& match : part.globalMatch(report)) {
+    const QString tag = match.captured(1).toLower();
+    const QString text = match.captured(2).remove(markup).trimmed();
+    if (tag == "table") headings.clear();
+    if (tag == "tr") cell = 0;
+    if (tag == "th" && match.captured().contains("\"col\"")) headings += text;
+    if (tag == "td" && headings.value(cell++) == heading) column += text;
+  }
+  return column;
+}
+
+/// What a person reads in a control, or as the title of a window; of a picture what is read aloud.
+QString ShownBy(const QWidget* control) {
+  for (const char* property : {"displayText", "currentText", "text", "title"}) {
+    if (const QVariant text = control->property(property); text.isValid()) return text.toString();
+  }
+  return control->isWindow() ? control->windowTitle() : control->accessibleName();
+}
+
+std::vector<Form*> VisibleForms() {
+  std::vector<Form*> forms;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    auto* form = qobject_cast<Form*>(window);
+    if (form && form->isVisible()) forms.push_back(form);
+  }
+  return forms;
+}
+
+/// A person's way through the windows, from the main menu on, as a file in walks tells it line by
+/// line; docs/testing.md lists the words.
+class Walk : public WindowTest {
+ public:
+  explicit Walk(const QString& path) : path_(path), file_(path.toStdString()) {}
+
+ protected:
+  void SetUp() override {
+    WindowTest::SetUp();
+    StandIn(windows.Show<MainMenu>());
+  }
+
+  void TestBody() override {
+    Run(ReadWalk(path_));
+    EXPECT_TRUE(HasFailure() || expected_ > 0) << file_ << " expects nothing";
+  }
+
+ private:
+  using Words = QStringList;
+  using Word = std::function<void(const Words&)>;
+
+  /// A word that does or expects the same of each argument, which is a name or "name=value".
+  static Word Each(std::function<void(const QString& name, const QString& value)> handle) {
+    return [handle](const Words& arguments) {
+      EXPECT_FALSE(arguments.empty()) << "says not of what";
+      for (const auto& word : arguments) handle(word.section('=', 0, 0), word.section('=', 1));
+    };
+  }
+
+  Word State(const char* property, bool value) {
+    return Each([this, property, value](const QString& name, const QString&) {
+      const auto* control = Get<QWidget>(name);
+      EXPECT_EQ(control ? control->property(property) : QVariant(), value) << name.toStdString();
+    });
+  }
+
+  const std::map<QString, Word> acts_ = {
+      {"in", Each([this](auto& name, auto&) { In(name); })},
+      {"click", Each([this](auto& name, auto&) { Click(name); })},
+      {"choose", Each([this](auto& name, auto&) { Choose(name); })},
+      {"type", Each([this](auto& name, auto& text) { Type(name, text); })},
+      {"keys", Each([this](auto& text, auto&) { Keys(text); })},
+      {"key", Each([this](auto& name, auto&) { Press(name); })},
+      {"menu", Each([this](auto& item, auto&) { ChooseItem(item); })},
+      {"close", Each([this](auto& name, auto&) { Close(name); })},
+  };
+
+  const std::map<QString, Word> expectations_ = {
+      {"box", [this](const Words& words) { Announce(words, MessageIcon::Exclamation); }},
+      {"notice", [this](const Words& words) { Announce(words, MessageIcon::None); }},
+      {"shows", Each([this](auto& name, auto& text) { Shows(name, text); })},
+      {"focus", Each([this](auto& name, auto&) { EXPECT_EQ(Focus(), name.toStdString()); })},
+      {"shown", State("visible", true)},
+      {"hidden", State("visible", false)},
+      {"enabled", State("enabled", true)},
+      {"disabled", State("enabled", false)},
+      {"chosen", State("checked", true)},
+      {"unchosen", State("checked", false)},
+      {"up", State("down", false)},
+      {"report", [this](const Words& words) { Report(words); }},
+      {"ended", [this](const Words&) { Ended(); }},
+  };
+
+  void Run(const std::vector<Step>& steps) {
+    for (const Step& step : steps) {
+      if (HasFailure()) return;
+      const ::testing::ScopedTrace trace(file_.c_str(), step.line, step.text.toStdString());
+      const Words words = QProcess::splitCommand(step.text);
+      if (words.front() == "for") {
+        RunRows(words.mid(1), step.block);
+      } else if (step.block.empty()) {
+        Do(words);
+      } else {
+        DoAbove(words, step.block);
+      }
+    }
+  }
+
+  void RunRows(const Words& names, const std::vector<Step>& block) {
+    std::vector<Step> steps = block;
+    std::erase_if(steps, IsRow);
+    for (const Step& row : block) {
+      if (!IsRow(row)) continue;
+      const ::testing::ScopedTrace trace(file_.c_str(), row.line, row.text.toStdString());
+      Words cells;
+      for (const QString& cell : row.text.split('|')) cells += cell.trimmed();
+      ASSERT_EQ(cells.size(), names.size() + 2) << "cells, with what is outside of the bars";
+      Run(Filled(steps, names, cells.mid(1)));
+    }
+  }
+
+  void Do(const Words& words) {
+    const bool acts = acts_.contains(words.front());
+    const auto& known = acts ? acts_ : expectations_;
+    const auto word = known.find(words.front());
+    ASSERT_TRUE(word != known.end()) << "unknown word";
+    const bool needsWindow = word->first != "in" && word->first != "ended";
+    ASSERT_TRUE(!needsWindow || Front()) << "in no window";
+    word->second(words.mid(1));
+    if (acts) return AwaitBoxes();
+    ++expected_;
+  }
+
+  /// An act that opens windows above: each part of the block that begins with "in" is done in one
+  /// of them and closes it. Then the window that was in front is so again.
+  void DoAbove(const Words& act, const std::vector<Step>& block) {
+    const QPointer<Form> before = Front();
+    const QWidget* below = QApplication::activeModalWidget();
+    auto next = block.begin();
+    QTimer opened;
+    opened.callOnTimeout([&] {
+      QPointer<Form> above = qobject_cast<Form*>(QApplication::activeModalWidget());
+      if (!above || above == below) return;
+      opened.stop();
+      const auto begin = std::exchange(next, std::find_if(next + 1, block.end(), IsIn));
+      // What was announced before the act comes when the window has closed.
+      const auto announced = std::exchange(boxes, {});
+      Run({begin, next});
+      boxes.insert(boxes.end(), announced.begin(), announced.end());
+      if (next != block.end() && !HasFailure()) opened.start();
+      if (!above || !above->isVisible()) return;
+      ADD_FAILURE() << above->objectName().toStdString() << " stays open";
+      windows.Close(*above);
+    });
+    opened.start();
+    Do(act);
+    EXPECT_TRUE(next == block.end() || HasFailure()) << "opens no window for the lines below";
+    if (before && before->isVisible()) StandIn(*before);
+  }
+
+  /// Waits for a window and stands in it; a main window comes in the place of any other.
+  void In(const QString& name) {
+    Form* form = nullptr;
+    const auto isShown = [&form, &name] {
+      for (Form* shown : VisibleForms()) {
+        if (shown->objectName() == name) form = shown;
+      }
+      return form != nullptr;
+    };
+    ASSERT_TRUE(QTest::qWaitFor(isShown)) << "the window is not shown";
+    StandIn(*form);
+    for (const Form* other : VisibleForms()) {
+      const bool both =
+          form->WindowRole() == Form::Role::Main && other->WindowRole() == Form::Role::Main;
+      EXPECT_TRUE(other == form || !both) << other->objectName().toStdString() << " is open too";
+    }
+  }
+
+  void ChooseItem(const QString& item) {
+    for (const auto* menu : Front()->findChildren<QMenu*>()) {
+      if (menu->actions().contains(Front()->findChild<QAction*>(item))) {
+        return Menu(menu->objectName(), item);
+      }
+    }
+    ADD_FAILURE() << "no such item";
+  }
+
+  void Press(const QString& name) {
+    const QKeySequence keys(name);
+    ASSERT_TRUE(!keys.isEmpty() && keys[0].key() != Qt::Key_unknown) << "unknown key";
+    Key(keys[0].key(), keys[0].keyboardModifiers());
+  }
+
+  void Close(const QString& name) {
+    ASSERT_EQ(Front()->objectName(), name) << "is not in front";
+    CloseByFrame();
+  }
+
+  /// The text of a box, then its title and answer where they are not the usual ones.
+  void Announce(const Words& words, MessageIcon icon) {
+    ASSERT_FALSE(words.empty()) << "a box of what?";
+    ExpectedBox box{.text = QString(words[0]).replace("\\n", "\n").toStdString(), .icon = icon};
+    if (words.size() > 1) box.title = words[1].toStdString();
+    if (words.size() > 2) box.answer = words[2] == "Yes" ? QMessageBox::Yes : QMessageBox::No;
+    Expect(box);
+  }
+
+  void Shows(const QString& name, const QString& text) {
+    const auto* control = name == Front()->objectName() ? Front() : Get<QWidget>(name);
+    if (!control) return;
+    EXPECT_EQ(ShownBy(control).toStdString(), text.toStdString()) << name.toStdString();
+  }
+
+  void Report(const Words& words) {
+    QFile file(session.dataFolder / words.value(0).toStdString());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << "no such report";
+    const QString report = QString::fromUtf8(file.readAll());
+    Each([&report](const QString& heading, const QString& cells) {
+      const QStringList column = ReportColumn(report, heading);
+      EXPECT_FALSE(column.empty()) << "no such column";
+      EXPECT_EQ(column.join("; ").toStdString(), cells.toStdString());
+    })(words.mid(1));
+  }
+
+  void Ended() {
+    EXPECT_TRUE(windows.HasEnded());
+    for (const Form* form : VisibleForms()) ADD_FAILURE() << form->objectName().toStdString();
+  }
+
+  const QString path_;
+  const std::string file_;
+  int expected_ = 0;
+};
+
+const bool kRegistered = [] {
+  for (const QFileInfo& file : QDir(CORVANE_WALKS).entryInfoList({"*.walk"})) {
+    const QString path = file.filePath();
+    ::testing::RegisterTest("Walk", file.baseName().toStdString().c_str(), nullptr, nullptr,
+                            path.toStdString().c_str(), 1,
+                            [path]() -> WindowTest* { return new Walk(path); });
+  }
+  return true;
+}();
+
+}  // namespace
+}  // namespace corvane
