@@ -4,7 +4,11 @@
 #include "windows/frame/CalendarPopup.h"
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
-#include "windows/statement/StatementTest.h"
+#include "windows/statement/DailyBalancesWindow.h"
+#include "windows/statement/InterestReportWindow.h"
+#include "windows/statement/StatementEntryWindow.h"
+#include "windows/statement/StatementResultsWindow.h"
+#include "windows/statement/StatementSetupWindow.h"
 
 namespace corvane {
 namespace {
@@ -115,13 +119,15 @@ TEST_F(Help, IsUsableBesideTheModalWindowThatAskedForIt) {
     ExpectTopic("About");
     ClickEntry("Main menu");
     ExpectTopic("Main menu");
+    Click("cmdBack");
+    ExpectTopic("About");
     InFront<AboutWindow>();
     CloseByFrame();
   });
   Menu("mnuHelp", "mnuAbout");
   InFront<HelpWindow>();
-  Click("cmdBack");
-  ExpectTopic("About");
+  Click("cmdForward");
+  ExpectTopic("Main menu");
 }
 
 }  // namespace
