@@ -4,7 +4,11 @@
 #include "windows/frame/CalendarPopup.h"
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
-#include "windows/statement/StatementTest.h"
+#include "windows/statement/DailyBalancesWindow.h"
+#include "windows/statement/InterestReportWindow.h"
+#include "windows/statement/StatementEntryWindow.h"
+#include "windows/statement/StatementResultsWindow.h"
+#include "windows/statement/StatementSetupWindow.h"
 
 namespace corvane {
 namespace {
