@@ -116,7 +116,6 @@ void HelpWindow::cmdFind_Click() {
   const int count = ui_->lstFound->count();
   ui_->lblFound->setText(count ? QString("&Topics found: %1").arg(count)
                                : "No topic has all these words.");
-  ui_->lstFound->setVisible(count > 0);
   ui_->fraFound->show();
   if (count == 0) return FocusField(ui_->txtFind);
   ui_->lstFound->setCurrentRow(0);
