@@ -3,9 +3,7 @@
 #include <QtWidgets>
 
 #include "account/NumericEntry.h"
-#include "platform/HelpViewer.h"
 #include "platform/MessageBox.h"
-#include "platform/ProgramFolder.h"
 #include "support/NumberText.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -19,6 +17,10 @@ QPalette ReadableWhenDisabled(QPalette palette) {
   text.setAlphaF(0.65F);
   palette.setColor(QPalette::Disabled, QPalette::Text, text);
   return palette;
+}
+
+bool TypesCharacter(const QKeyEvent& press) {
+  return !press.text().isEmpty() && press.text().front().isPrint();
 }
 
 }  // namespace
@@ -37,6 +39,17 @@ Session& Form::session() {
 
 Routes& Form::routes() {
   return windows_.routes();
+}
+
+void Form::Load() {
+  for (auto* button : findChildren<QAbstractButton*>()) button->installEventFilter(this);
+  for (auto* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
+  if (auto* bar = findChild<QMenuBar*>()) {
+    bar->installEventFilter(this);
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, bar,
+            [bar] { bar->setActiveAction(bar->actions().front()); });
+  }
+  Form_Load();
 }
 
 void Form::Tell(const Refusal& refusal) {
@@ -58,13 +71,13 @@ void Form::OnClick(QAbstractButton* button, Handler handler) {
   // behind shows would come between press and release.
   button->setFocusPolicy(Qt::TabFocus);
   connect(button, &QAbstractButton::clicked, this, [this, button, handler] {
-    if (TakeFocus(button)) handler();
+    if (windows_.IsInFront(*this) && TakeFocus(button)) handler();
   });
 }
 
 void Form::OnMenu(QAction* item, Handler handler) {
   connect(item, &QAction::triggered, this, [this, item, handler] {
-    if (CommitFor(item)) handler();
+    if (windows_.IsInFront(*this) && CommitFor(item)) handler();
   });
 }
 
@@ -78,7 +91,6 @@ void Form::OnLostFocus(QWidget* field, LostFocusHandler handler) {
 
 void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
   numeric_[field] = rule;
-  field->installEventFilter(this);
   // What an input method composes would not pass the key filter.
   field->setAttribute(Qt::WA_InputMethodEnabled, false);
   connect(field, &QLineEdit::textChanged, this,
@@ -119,29 +131,47 @@ void Form::NumericChange(QLineEdit* field, const NumericRule& rule) {
   if (limited.message) Tell(*limited.message);
 }
 
-bool Form::RefusesKey(QLineEdit* field, int key, const QString& text, const NumericRule& rule) {
-  if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+bool Form::PressControl(const QKeySequence& accessKey) {
+  for (auto* button : findChildren<QAbstractButton*>()) {
+    if (button->shortcut() != accessKey || !button->isVisible() || !button->isEnabled()) continue;
+    if (button->isCheckable()) button->setFocus(Qt::ShortcutFocusReason);
+    button->click();
+    return true;
+  }
+  return false;
+}
+
+bool Form::RefusesNumericKey(QLineEdit* field, const QKeyEvent& press, const NumericRule& rule) {
+  if (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter) {
     if (rule.enterMovesOn) focusNextPrevChild(true);
     return true;
   }
-  const bool typesCharacter = !text.isEmpty() && text.front().isPrint();
-  if (!typesCharacter) return false;
+  if (!TypesCharacter(press)) return false;
+  const QString text = press.text();
   if (rule.digitsOnly) return text < "0" || text > "9";
   return !FilterNumericKey(text.toUcs4().front(),
                            {field->text().toStdU16String(), field->selectionStart(),
                             static_cast<int>(field->selectedText().size())});
 }
 
+bool Form::RefusesKey(QLineEdit* field, const QKeyEvent& press) {
+  const bool alt = press.modifiers() & (Qt::AltModifier | Qt::MetaModifier);
+  const bool control = press.modifiers() & Qt::ControlModifier;
+  // A command types nothing, which a field knows of Ctrl alone. Both together are AltGr.
+  if (alt != control) return alt && TypesCharacter(press);
+  const auto rule = numeric_.find(field);
+  return rule != numeric_.end() && RefusesNumericKey(field, press, rule->second);
+}
+
 bool Form::eventFilter(QObject* watched, QEvent* event) {
-  const auto rule = numeric_.find(watched);
-  if (rule == numeric_.end() || event->type() != QEvent::KeyPress) {
-    return QMainWindow::eventFilter(watched, event);
+  if (event->type() == QEvent::Shortcut) {
+    return PressControl(static_cast<QShortcutEvent*>(event)->key());
   }
-  const auto* press = static_cast<QKeyEvent*>(event);
-  const bool isCommand =
-      press->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-  return !isCommand &&
-         RefusesKey(qobject_cast<QLineEdit*>(watched), press->key(), press->text(), rule->second);
+  auto* field = qobject_cast<QLineEdit*>(watched);
+  if (field && event->type() == QEvent::KeyPress) {
+    return RefusesKey(field, *static_cast<QKeyEvent*>(event));
+  }
+  return QMainWindow::eventFilter(watched, event);
 }
 
 void Form::HoldFocus(QWidget* field) {
@@ -179,17 +209,24 @@ bool Form::CommitFor(QAction* item) {
 }
 
 void Form::ShowHelpTopic(int context) {
-  ShowHelp(this, HelpFile(), context);
+  if (const auto refusal = routes().ShowHelp(context)) Tell(*refusal);
+}
+
+void Form::BindHelp(int context) {
+  // Help changes nothing in the form, so that the field which has the focus is not left for it.
+  const auto show = [this, context] { ShowHelpTopic(context); };
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, show);
+  if (auto* item = findChild<QAction*>("mnuHelpTopics")) {
+    connect(item, &QAction::triggered, this, show);
+  }
 }
 
 void Form::BindCommonMenus(int helpContext) {
   for (auto* item : findChildren<QAction*>()) {
     if (item->objectName() == "mnuExit") OnMenu(item, [this] { windows_.EndProgram(); });
     if (item->objectName() == "mnuHelpAbout") OnMenu(item, [this] { routes().ShowAbout(); });
-    if (item->objectName() == "mnuHelpTopics") {
-      OnMenu(item, [this, helpContext] { ShowHelpTopic(helpContext); });
-    }
   }
+  BindHelp(helpContext);
 }
 
 void Form::closeEvent(QCloseEvent* event) {

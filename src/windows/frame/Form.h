@@ -13,6 +13,8 @@
 
 class QAbstractButton;
 class QAction;
+class QKeyEvent;
+class QKeySequence;
 class QLineEdit;
 class QRadioButton;
 
@@ -34,7 +36,8 @@ struct NumericRule {
 /// The window that all others are built on. It gives a form its life (load once, activation by
 /// navigation, unload) and its entry rules: a field loses the focus exactly once, when the focus
 /// goes to another control of the form or when a button or menu item is about to act, and never
-/// because a message box or another window came in front.
+/// because a message box or another window came in front. An access key acts at once, on the
+/// control that is captioned with it before a menu that is; F10 opens the first menu.
 class Form : public QMainWindow {
   Q_OBJECT
 
@@ -46,7 +49,8 @@ class Form : public QMainWindow {
 
   Role WindowRole() const { return role_; }
 
-  /// Runs once, when the form is made.
+  /// Called once, when the form is made: sees to its keys and runs Form_Load.
+  void Load();
   virtual void Form_Load() {}
   /// Runs when the program's own navigation brings the form to the front.
   virtual void Form_Activate() {}
@@ -74,7 +78,7 @@ class Form : public QMainWindow {
   WindowRegistry& windows() { return windows_; }
 
   /// The wiring of a form's handlers. A button and a menu item take the focus before they act, and
-  /// do not act when the field that loses it holds on to it.
+  /// do not act when the field that loses it holds on to it, nor when the form is not in front.
   void OnClick(QAbstractButton* button, Handler handler);
   void OnMenu(QAction* item, Handler handler);
   void OnGotFocus(QWidget* field, Handler handler);
@@ -97,7 +101,10 @@ class Form : public QMainWindow {
   /// Called by a LostFocus handler that refuses: the focus returns to the field.
   void HoldFocus(QWidget* field);
 
+  /// Opens the help at a topic, or tells why it cannot be opened.
   void ShowHelpTopic(int context);
+  /// Lets F1 and the item Topics, where the form has it, open the help at a topic.
+  void BindHelp(int context);
   /// Wires the items that every window's menus share, as far as the form has them: Exit, Topics
   /// with the window's help context, About.
   void BindCommonMenus(int helpContext);
@@ -111,7 +118,9 @@ class Form : public QMainWindow {
   bool TakeFocus(QAbstractButton* button);
   bool CommitFor(QAction* item);
   void NumericChange(QLineEdit* field, const NumericRule& rule);
-  bool RefusesKey(QLineEdit* field, int key, const QString& text, const NumericRule& rule);
+  bool PressControl(const QKeySequence& accessKey);
+  bool RefusesKey(QLineEdit* field, const QKeyEvent& press);
+  bool RefusesNumericKey(QLineEdit* field, const QKeyEvent& press, const NumericRule& rule);
 
   WindowRegistry& windows_;
   Role role_;

@@ -29,7 +29,7 @@ Form* WindowRegistry::FindForm(std::type_index type) const {
 
 void WindowRegistry::Add(std::type_index type, Form* form) {
   open_.push_back({type, form});
-  form->Form_Load();
+  form->Load();
 }
 
 void WindowRegistry::PlaceBeforeShowing(Form& form) {
@@ -44,6 +44,7 @@ void WindowRegistry::BringToFront(Form& form) {
   form.show();
   form.raise();
   form.activateWindow();
+  presses_.WindowChanged();
   form.Form_Activate();
 }
 
@@ -57,9 +58,17 @@ void WindowRegistry::RunModal(Form& form) {
   loop.exec(QEventLoop::DialogExec);
 }
 
+bool WindowRegistry::IsInFront(const Form& form) const {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return form.isVisible() && (!modal || modal == &form);
+}
+
 void WindowRegistry::Close(Form& form) {
   std::erase_if(open_, [&form](const Entry& entry) { return entry.form == &form; });
   form.hide();
+  // Keys and clicks that were under way still reach it until it is deleted.
+  form.setEnabled(false);
+  presses_.WindowChanged();
   emit form.Unloaded();
   // The form may be inside one of its own handlers.
   form.deleteLater();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "windows/frame/Form.h"
+#include "windows/frame/PressGuard.h"
 #include "windows/frame/Routes.h"
 #include "windows/frame/Session.h"
 
@@ -53,7 +54,9 @@ class WindowRegistry {
     if (auto* form = Find<AForm>()) Close(*form);
   }
 
-  /// Closes a window without ending the program.
+  /// Whether the form is shown and no modal window stands above it.
+  bool IsInFront(const Form& form) const;
+  /// Closes a window without ending the program; it takes no input any more.
   void Close(Form& form);
   /// Closes every main window but this one.
   void CloseOtherMainWindows(const Form& kept);
@@ -81,6 +84,7 @@ class WindowRegistry {
 
   Session& session_;
   Routes routes_{*this};
+  PressGuard presses_;
   std::vector<Entry> open_;  ///< oldest first
   bool ended_ = false;
 };

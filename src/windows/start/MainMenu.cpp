@@ -53,7 +53,8 @@ void MainMenu::mnuShowTitle_Click() {
 }
 
 void MainMenu::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) return windows().EndProcess();
+  // The menu bar keeps an Escape that leaves it; a held one goes on with that.
+  if (event->key() == Qt::Key_Escape && !event->isAutoRepeat()) return windows().EndProcess();
   Form::keyPressEvent(event);
 }
 
