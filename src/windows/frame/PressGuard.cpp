@@ -18,6 +18,14 @@ quint64 LongestPause(const QInputEvent& press) {
   return static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
 }
 
+/// The filter sees every event of the program. What the browser makes for itself cannot be asked
+/// what it is, so that it is looked for.
+bool IsWindow(const QObject* receiver) {
+  const QWindowList windows = QGuiApplication::allWindows();
+  return std::any_of(windows.begin(), windows.end(),
+                     [receiver](const QWindow* window) { return window == receiver; });
+}
+
 }  // namespace
 
 PressGuard::PressGuard() {
@@ -50,15 +58,14 @@ bool PressGuard::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
       // A press comes to a window of the window system first, and from there to the controls.
-      if (!watched->isWindowType() || !GoesOn(*static_cast<QInputEvent*>(event))) return false;
+      if (!IsWindow(watched) || !GoesOn(*static_cast<QInputEvent*>(event))) return false;
       event->accept();
       return true;
     case QEvent::KeyRelease:
     case QEvent::MouseButtonRelease:
-      if (watched->isWindowType()) last_ = InputOf(*static_cast<QInputEvent*>(event));
+      if (IsWindow(watched)) last_ = InputOf(*static_cast<QInputEvent*>(event));
       return false;
     default:
-      // The filter sees every event of the program, also those of the browser's own objects.
       return false;
   }
 }
