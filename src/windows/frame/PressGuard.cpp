@@ -44,21 +44,21 @@ bool PressGuard::GoesOn(const QInputEvent& press) {
 }
 
 bool PressGuard::eventFilter(QObject* watched, QEvent* event) {
-  // A press comes to a window of the window system first, and from there to the controls.
-  if (!watched->isWindowType()) return false;
   switch (event->type()) {
     case QEvent::ShortcutOverride:  // comes before an access key acts
     case QEvent::KeyPress:
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-      if (!GoesOn(*static_cast<QInputEvent*>(event))) return false;
+      // A press comes to a window of the window system first, and from there to the controls.
+      if (!watched->isWindowType() || !GoesOn(*static_cast<QInputEvent*>(event))) return false;
       event->accept();
       return true;
     case QEvent::KeyRelease:
     case QEvent::MouseButtonRelease:
-      last_ = InputOf(*static_cast<QInputEvent*>(event));
+      if (watched->isWindowType()) last_ = InputOf(*static_cast<QInputEvent*>(event));
       return false;
     default:
+      // The filter sees every event of the program, also those of the browser's own objects.
       return false;
   }
 }
