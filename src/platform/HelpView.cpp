@@ -132,6 +132,9 @@ void HelpView::Read(const HelpBook& book) {
   layout()->addWidget(&browser_->view);
   setFocusProxy(&browser_->view);
   connect(&browser_->page, &QWebEnginePage::loadFinished, this, &HelpView::Loaded);
+  // From place to place in a topic nothing is loaded.
+  connect(&browser_->page, &QWebEnginePage::urlChanged, this,
+          [this](const QUrl& url) { emit Shown(TopicOf(url)); });
   connect(&browser_->page, &QWebEnginePage::renderProcessTerminated, this, &HelpView::LoadAgain,
           Qt::QueuedConnection);
 }
@@ -149,7 +152,8 @@ void HelpView::LoadAgain() {
 }
 
 void HelpView::Loaded() {
-  browser_->page.findText(marked_);
+  // Once: finding also goes to what is found, where a link may lead to another place.
+  browser_->page.findText(std::exchange(marked_, {}));
   emit Shown(TopicOf(browser_->page.url()));
 }
 
