@@ -35,10 +35,11 @@ HelpWindow::HelpWindow(WindowRegistry& registry)
   ui_->split->setStretchFactor(1, 1);
   ui_->split->setSizes({kContentsWidth, width() - kContentsWidth});
   ui_->fraFound->hide();
-  OnClick(ui_->cmdBack, [this] { view_->GoBack(); });
-  OnClick(ui_->cmdForward, [this] { view_->GoForward(); });
-  OnClick(ui_->cmdFind, [this] { cmdFind_Click(); });
-  connect(ui_->txtFind, &QLineEdit::returnPressed, this, [this] { cmdFind_Click(); });
+  // Nothing is entered here that a button would have to wait for, be another window modal or not.
+  connect(ui_->cmdBack, &QPushButton::clicked, this, [this] { view_->GoBack(); });
+  connect(ui_->cmdForward, &QPushButton::clicked, this, [this] { view_->GoForward(); });
+  connect(ui_->cmdFind, &QPushButton::clicked, this, &HelpWindow::cmdFind_Click);
+  connect(ui_->txtFind, &QLineEdit::returnPressed, this, &HelpWindow::cmdFind_Click);
   const auto openEntry = [this](const QTreeWidgetItem* item) {
     const QString topic = item->data(0, kTopicRole).toString();
     if (!topic.isEmpty()) view_->ShowTopic(topic);

@@ -119,13 +119,15 @@ TEST_F(Help, IsUsableBesideTheModalWindowThatAskedForIt) {
     ExpectTopic("About");
     ClickEntry("Main menu");
     ExpectTopic("Main menu");
+    Click("cmdBack");
+    ExpectTopic("About");
     InFront<AboutWindow>();
     CloseByFrame();
   });
   Menu("mnuHelp", "mnuAbout");
   InFront<HelpWindow>();
-  Click("cmdBack");
-  ExpectTopic("About");
+  Click("cmdForward");
+  ExpectTopic("Main menu");
 }
 
 }  // namespace
