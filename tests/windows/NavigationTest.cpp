@@ -4,6 +4,7 @@
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
 #include "windows/start/MainMenu.h"
+#include "windows/statement/StatementSetupWindow.h"
 
 namespace corvane {
 namespace {
@@ -14,6 +15,22 @@ class Navigation : public WindowTest {
   void Open() {
     windows.Show<AForm>();
     InFront<AForm>();
+  }
+
+  /// A press as the window system sends it, at a place of the screen and a time.
+  void PressMouse(const QPoint& place, quint64 milliseconds) {
+    QWindow* window = Front()->windowHandle();
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+      QMouseEvent event(type, window->mapFromGlobal(place), place, Qt::LeftButton,
+                        type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, {});
+      event.setTimestamp(milliseconds);
+      QCoreApplication::sendEvent(window, &event);
+    }
+  }
+  void PressEnter(quint64 milliseconds, bool held) {
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, {}, "\r", held);
+    event.setTimestamp(milliseconds);
+    QCoreApplication::sendEvent(Front()->windowHandle(), &event);
   }
 };
 
@@ -37,10 +54,57 @@ TEST_F(Navigation, TheFrameOfTheFirstWindowEndsTheProgram) {
   EXPECT_TRUE(windows.HasEnded());
 }
 
-TEST_F(Navigation, EscapeOnTheMainMenuEndsTheProcessAtOnce) {
+TEST_F(Navigation, ADoubleClickThatChangesTheWindowIsOnePress) {
+  const struct {
+    QPoint away;
+    quint64 later;
+    bool acts;
+  } seconds[] = {{{}, 200, false}, {{50, 0}, 200, true}, {{}, 1000, true}};
+  for (const auto& second : seconds) {
+    Open<DisclaimerWindow>();
+    auto* leave = Get<QPushButton>("cmdOK");
+    const QPoint place = leave->mapToGlobal(leave->rect().center());
+    PressMouse(place, 5000);
+    QWidget& menu = InFront<MainMenu>();
+    auto* under = Get<QPushButton>("cmdStatement");
+    menu.move(menu.pos() + place + second.away - under->mapToGlobal(under->rect().center()));
+    PressMouse(place + second.away, 5000 + second.later);
+    EXPECT_EQ(IsVisible<StatementSetupWindow>(), second.acts) << second.later;
+    EXPECT_NE(IsVisible<MainMenu>(), second.acts);
+  }
+}
+
+TEST_F(Navigation, AKeyThatChangesTheWindowActsOnceWhetherPressedTwiceOrHeld) {
+  Open<DisclaimerWindow>();
+  PressEnter(5000, false);
+  InFront<MainMenu>();
+  PressEnter(5200, false);
+  PressEnter(9000, true);
+  EXPECT_TRUE(IsVisible<MainMenu>());
+  PressEnter(15000, false);
+  EXPECT_FALSE(IsVisible<MainMenu>());
+}
+
+TEST_F(Navigation, AWindowThatIsLeftTakesNoMoreInput) {
+  Open<MainMenu>();
+  auto* other = Get<QPushButton>("cmdAcctAdv");
+  Click("cmdStatement");
+  other->click();
+  InFront<StatementSetupWindow>();
+  auto* name = Get<QLineEdit>("txtName");
+  Click("cmdExit");
+  QTest::keyClicks(name, "Bank");
+  EXPECT_EQ(session.header.institution, "");
+}
+
+TEST_F(Navigation, EscapeOnTheMainMenuEndsTheProcessAtOnceUnlessItLeavesTheMenuBar) {
   Open<MainMenu>();
   session.header.institution = "First Bank";
   Key(Qt::Key_Tab);
+  Key(Qt::Key_F10);
+  EXPECT_EQ(QApplication::activePopupWidget(), Get<QMenu>("mnuFile"));
+  Key(Qt::Key_Escape);
+  Key(Qt::Key_Escape);
   EXPECT_FALSE(windows.HasEnded());
   Key(Qt::Key_Escape);
   EXPECT_TRUE(windows.HasEnded());
@@ -74,6 +138,8 @@ TEST_F(Navigation, AboutIsModalOverTheMainMenuAlsoWhenItWasLeftOpenAndItsFrameCl
   InFront<MainMenu>();
   WhenShown<AboutWindow>([this] {
     EXPECT_EQ(QApplication::activeModalWidget(), windows.Find<AboutWindow>());
+    windows.Find<MainMenu>()->findChild<QPushButton*>("cmdStatement")->click();
+    EXPECT_TRUE(IsVisible<MainMenu>()) << "acts below another window";
     Expect({"System Information Is Unavailable At This Time", "Corvane Calculator",
             MessageIcon::None});
     Click("cmdSysInfo");

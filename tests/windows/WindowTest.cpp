@@ -67,7 +67,8 @@ void WindowTest::Keys(const QString& text) {
 
 void WindowTest::Key(int key, Qt::KeyboardModifiers modifiers) {
   Activate();
-  QWidget* receiver = QApplication::focusWidget();
+  QWidget* receiver = QApplication::activePopupWidget();
+  if (!receiver) receiver = QApplication::focusWidget();
   QTest::keyClick(receiver ? receiver : front_, static_cast<Qt::Key>(key), modifiers);
 }
 
@@ -96,11 +97,6 @@ void WindowTest::Menu(const QString& menu, const QString& item) {
   ASSERT_TRUE(QTest::qWaitFor([drop] { return drop->isVisible(); }));
   QTest::mouseClick(drop, Qt::LeftButton, {}, drop->actionGeometry(action).center());
   QCoreApplication::processEvents();
-}
-
-void WindowTest::AccessKey(int key) {
-  Activate();
-  QTest::keyClick(front_, static_cast<Qt::Key>(key), Qt::AltModifier);
 }
 
 std::string WindowTest::Text(const QString& field) const {

@@ -63,13 +63,12 @@ class WindowTest : public ::testing::Test {
   void Type(const QString& field, const QString& text);
   /// Types into the control that has the focus.
   void Keys(const QString& text);
+  /// Presses a key in the menu that is open, else in the control that has the focus.
   void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   void Click(const QString& button);
   void Choose(const QString& option);
   /// Opens the menu with the mouse and clicks its item.
   void Menu(const QString& menu, const QString& item);
-  /// Presses Alt and a captioned letter.
-  void AccessKey(int key);
   /// What to do in a modal window that the next act opens: the act comes back when it has closed.
   template <class AForm>
   void WhenShown(std::function<void()> doThere) {
@@ -77,10 +76,6 @@ class WindowTest : public ::testing::Test {
       InFront<AForm>();
       doThere();
     });
-  }
-  /// Waits for the boxes that an access key raises, because its button first shows itself pressed.
-  void AwaitBoxes() {
-    EXPECT_TRUE(QTest::qWaitFor([this] { return boxes.empty(); }));
   }
   /// Closes the window in front by its frame.
   void CloseByFrame() { front_->close(); }
