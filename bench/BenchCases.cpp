@@ -66,7 +66,8 @@ ReportContent Statement() {
 ReportContent InterestOfLongestPeriod() {
   DailyBalances daily;
   daily.start = std::chrono::year{2024} / std::chrono::January / 15;
-  for (int day = 1; day <= kLongestPeriod; ++day) daily.days.push_back({1000.0 + day, 5.25});
+  for (int day = 1; day <= kLongestPeriod; ++day)
+    daily.days.push_back({FormatFixed2(1000.0 + day), "5.25"});
   return InterestReport(kHeader, CheckedStatement(), daily, kToday);
 }
 

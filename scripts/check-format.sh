@@ -6,4 +6,4 @@ cd "$(dirname "$0")/.."
 how="--dry-run --Werror"
 [ "${1:-}" = --fix ] && how=-i
 # shellcheck disable=SC2086  # one word per option
-find src tests bench \( -name '*.cpp' -o -name '*.h' \) -exec clang-format $how {} +
+find src tests bench tools \( -name '*.cpp' -o -name '*.h' \) -exec clang-format $how {} +

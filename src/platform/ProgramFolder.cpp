@@ -22,7 +22,8 @@ std::filesystem::path SettingsFile() {
 
 std::filesystem::path DocumentsFolder() {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return PathOf(folder.toStdString()).make_preferred();
+  // Without a home the desktop names it with two separators, which no browser address can have.
+  return PathOf(folder.toStdString()).lexically_normal().make_preferred();
 }
 
 }  // namespace corvane

@@ -1,15 +1,23 @@
 #include "platform/WebView.h"
 
-#include <QEventLoop>
+#include <utility>
+
+#include <QDialog>
 #include <QLabel>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
 #include <QWebEngineSettings>
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
+
+#include "support/Paths.h"
+#include "support/ProgramTitle.h"
+#include "support/WholeFile.h"
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -65,55 +73,136 @@ void SwitchOff(QWebEngineSettings& settings) {
   }
 }
 
+/// Shows that a page prints. It takes the input of all windows and stays until the print ends.
+class PrintingBox : public QDialog {
+ public:
+  explicit PrintingBox(QWidget* parent)
+      : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
+    setWindowTitle(kProgramTitle);
+    setObjectName("PrintingBox");
+    (new QVBoxLayout(this))->addWidget(new QLabel("The report is being printed."));
+  }
+
+  void reject() override {}
+};
+
+/// Asks where and how to print.
+bool Accepts(QPrinter& printer, QWidget* parent) {
+  return QPrintDialog(&printer, parent).exec() == QDialog::Accepted;
+}
+
+int Answer(bool success) {
+  return success ? QDialog::Accepted : QDialog::Rejected;
+}
+
 }  // namespace
 
-WebView::WebView(QWidget* parent) : QWidget(parent) {
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
+// Destroyed in the opposite order: a page must not outlive its profile, nor a profile its guard.
+struct WebView::Browser {
+  Browser() {
+    profile.setUrlRequestInterceptor(&guard);
+    SwitchOff(*page.settings());
+    view.setPage(&page);
+    view.setContextMenuPolicy(Qt::NoContextMenu);
+  }
+
+  /// Starts to print, which ends the wait in the box. An engine whose helper is gone ends it too,
+  /// unless the pages are on their way to the printer already.
+  void Print(QPrinter& printer, QDialog& box) {
+    if (page.renderProcessPid() == 0) return box.done(QDialog::Rejected);
+    connect(&page, &QWebEnginePage::renderProcessTerminated, &box, [&box, &printer] {
+      if (printer.printerState() != QPrinter::Active) box.done(QDialog::Rejected);
+    });
+    if (printer.outputFormat() == QPrinter::PdfFormat) return PrintToFile(printer, box);
+    connect(&view, &QWebEngineView::printFinished, &box,
+            [&box](bool success) { box.done(Answer(success)); });
+    view.print(&printer);
+  }
+
+  /// A file gets text that can be searched, where the printer would get a picture of the page.
+  void PrintToFile(const QPrinter& printer, QDialog& box) {
+    const auto file = PathOf(printer.outputFileName().toStdString());
+    const auto write = [file, waiting = QPointer<QDialog>(&box)](const QByteArray& pdf) {
+      const bool success = !pdf.isEmpty() && !WriteWholeFile(file, pdf.toStdString());
+      if (waiting) waiting->done(Answer(success));
+    };
+    page.printToPdf(write, printer.pageLayout());
+  }
+
+  OnlyThisFile guard;
+  QWebEngineProfile profile;
+  ReportPage page{&profile, &guard};
+  QWebEngineView view;
+};
+
+WebView::WebView(QWidget* parent) : QWidget(parent), notice_(new QLabel(this)) {
+  auto* frame = new QVBoxLayout(this);
+  frame->setContentsMargins(0, 0, 0, 0);
+  notice_->setAlignment(Qt::AlignCenter);
+  notice_->setTextFormat(Qt::PlainText);
+  notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  notice_->setWordWrap(true);
+  frame->addWidget(notice_);
 }
 
 WebView::~WebView() = default;
 
-void WebView::MakeBrowser() {
-  profile_ = std::make_unique<QWebEngineProfile>();
-  auto* guard = new OnlyThisFile(profile_.get());
-  profile_->setUrlRequestInterceptor(guard);
-  page_ = std::make_unique<ReportPage>(profile_.get(), guard);
-  SwitchOff(*page_->settings());
-  browser_ = std::make_unique<QWebEngineView>();
-  browser_->setPage(page_.get());
-  browser_->setContextMenuPolicy(Qt::NoContextMenu);
-  layout()->addWidget(browser_.get());
-  connect(page_.get(), &QWebEnginePage::loadFinished, this, &WebView::Shown);
-}
-
 void WebView::ShowFile(const QString& path) {
-  if (!browser_) MakeBrowser();
-  static_cast<ReportPage*>(page_.get())->Open(QUrl::fromLocalFile(path));
+  path_ = path;
+  loadedAgain_ = false;
+  Load();
 }
 
 void WebView::ShowNotice(const QString& text) {
-  auto* notice = new QLabel(text, this);
-  notice->setAlignment(Qt::AlignCenter);
-  layout()->addWidget(notice);
+  DropBrowser();
+  notice_->setText(text);
+  notice_->show();
 }
 
-void WebView::Print() {
-  if (!browser_) return;
-  QPrinter printer(QPrinter::HighResolution);
-  QPrintDialog dialog(&printer, window());
-  if (dialog.exec() != QDialog::Accepted) return;
-  // The printer has to live until the page is on it.
-  QEventLoop printing;
-  if (printer.outputFormat() == QPrinter::PdfFormat) {
-    // A file gets text that can be searched, where the printer would get a picture of the page.
-    connect(page_.get(), &QWebEnginePage::pdfPrintingFinished, &printing, &QEventLoop::quit);
-    page_->printToPdf(printer.outputFileName(), printer.pageLayout());
-  } else {
-    connect(browser_.get(), &QWebEngineView::printFinished, &printing, &QEventLoop::quit);
-    browser_->print(&printer);
+void WebView::Load() {
+  DropBrowser();
+  notice_->hide();
+  browser_ = std::make_shared<Browser>();
+  layout()->addWidget(&browser_->view);
+  connect(&browser_->page, &QWebEnginePage::loadFinished, this, &WebView::Loaded);
+  connect(&browser_->page, &QWebEnginePage::renderProcessTerminated, this,
+          [this] { Loaded(false); });
+  browser_->page.Open(QUrl::fromLocalFile(path_));
+}
+
+void WebView::DropBrowser() {
+  // It may live on until its print has ended.
+  if (browser_) browser_->view.hide();
+  browser_.reset();
+}
+
+void WebView::Loaded(bool success) {
+  if (success) {
+    emit Shown(true);
+    return;
   }
-  printing.exec();
+  // One failure is told in more than one way, and the page is still inside the one that came first.
+  browser_->page.disconnect(this);
+  QTimer::singleShot(0, &browser_->page, [this] { LoadAgain(); });
+}
+
+void WebView::LoadAgain() {
+  if (!std::exchange(loadedAgain_, true)) return Load();
+  ShowNotice("The report cannot be shown. It stands in " + path_);
+  emit Shown(false);
+}
+
+bool WebView::Print() {
+  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  if (browser_ && !Accepts(*printer, window())) return true;
+  const auto printing = browser_;
+  if (!printing) return false;
+  PrintingBox box(window());
+  QTimer::singleShot(0, &box, [&] { printing->Print(*printer, box); });
+  const bool printed = box.exec() == QDialog::Accepted;
+  // The browser paints in a thread of its own, which may go on after a print that was given up.
+  if (!printed) static_cast<void>(printer.release());
+  return printed;
 }
 
 void PrepareWebView() {

@@ -4,15 +4,13 @@
 
 #include <QWidget>
 
-class QWebEnginePage;
-class QWebEngineProfile;
-class QWebEngineView;
+class QLabel;
 
 namespace corvane {
 
 /// Shows one local report file and nothing else: scripts and plug-ins are off, nothing is stored,
 /// links do nothing, and no other file or remote address is loaded. The browser behind it is made
-/// when the first file is shown.
+/// for each file that is shown.
 class WebView : public QWidget {
   Q_OBJECT
 
@@ -20,25 +18,33 @@ class WebView : public QWidget {
   explicit WebView(QWidget* parent);
   ~WebView() override;
 
+  /// Shows the file. One that does not load, or whose browser loses its helper process, is loaded
+  /// once more; then a notice says that it cannot be shown and where it stands.
   void ShowFile(const QString& path);
 
   /// Shows a plain sentence in place of a page.
   void ShowNotice(const QString& text);
 
-  /// Prints the page after the system's print dialog; does nothing when no page is shown.
-  void Print();
+  /// Prints the page after the system's print dialog, and keeps all input away until it is printed.
+  /// False when no page is shown and when the print fails.
+  bool Print();
 
  signals:
   /// The page stands on the screen, or could not be loaded.
   void Shown(bool success);
 
  private:
-  void MakeBrowser();
+  struct Browser;
 
-  // Destroyed in the opposite order: a page must not outlive its profile.
-  std::unique_ptr<QWebEngineProfile> profile_;
-  std::unique_ptr<QWebEnginePage> page_;
-  std::unique_ptr<QWebEngineView> browser_;
+  void Load();
+  void DropBrowser();
+  void Loaded(bool success);
+  void LoadAgain();
+
+  QLabel* notice_;
+  std::shared_ptr<Browser> browser_;
+  QString path_;
+  bool loadedAgain_ = false;
 };
 
 /// Prepares the process for the browser; to be called before the application object is made. The

@@ -3,11 +3,11 @@
 namespace corvane {
 
 std::filesystem::path MakeDataFolder(const std::filesystem::path& documents) {
-  if (documents.empty()) return {};
+  if (!documents.is_absolute()) return {};
   const std::filesystem::path folder = documents / "CORVANEWIN21";
-  std::error_code failure;
-  std::filesystem::create_directories(folder, failure);
-  return failure ? std::filesystem::path{} : folder;
+  std::error_code ignored;
+  std::filesystem::create_directories(folder, ignored);
+  return folder;
 }
 
 }  // namespace corvane

@@ -4,8 +4,8 @@
 
 namespace corvane {
 
-/// The data folder for reports in the documents folder, made if need be. Empty without a documents
-/// folder and when it cannot be made.
+/// The data folder for reports in the documents folder, made if need be and possible. Empty without
+/// a documents folder.
 std::filesystem::path MakeDataFolder(const std::filesystem::path& documents);
 
 }  // namespace corvane

@@ -8,6 +8,7 @@
 
 #include "account/Refusal.h"
 #include "reports/ReportTemplate.h"
+#include "support/WholeFile.h"
 
 namespace corvane {
 
@@ -23,13 +24,17 @@ struct ReportNames {
 struct WrittenReport {
   /// The lines joined without an end, for Save As; nothing where no report was written.
   std::optional<std::string> text;
-  /// What has to be told: each occurrence of a tag that the report does not know, then why nothing
-  /// was written.
+  /// What has to be told: the first three occurrences of tags that the report does not know and how
+  /// many more there were, then why nothing was written.
   std::vector<Refusal> messages;
 };
 
+/// What is said when a report or a copy of it could not be written.
+Refusal ReportNotWritten(const FileError& error);
+
 /// Fills the template file and writes the report, lines ending in CR LF, in place of the previous
-/// one. The template is read before the output is touched.
+/// one, which stays when the template is no text with a data row. An output without a folder is
+/// refused: it would land wherever the program was started.
 WrittenReport WriteReport(const std::filesystem::path& templateFile,
                           const std::filesystem::path& output, const ReportContent& content);
 

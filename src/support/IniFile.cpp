@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <fstream>
 #include <optional>
 #include <vector>
 
@@ -15,13 +14,19 @@ namespace {
 
 constexpr std::size_t kLongestValue = 254;
 
+/// Some editors put it before the first line.
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
 using Lines = std::vector<std::string>;
 
-/// The file's lines without their ends; empty when it cannot be read.
-Lines ReadLines(const std::filesystem::path& file) {
+/// The file's lines without their ends, none where there is no file; nothing when it cannot be
+/// read.
+std::optional<Lines> ReadLines(const std::filesystem::path& file) {
   const auto content = ReadWholeFile(file);
-  const auto* text = std::get_if<std::string>(&content);
-  return text ? LinesOf(*text) : Lines{};
+  if (const auto* text = std::get_if<std::string>(&content)) return LinesOf(*text);
+  std::error_code ignored;
+  if (std::filesystem::exists(file, ignored)) return std::nullopt;
+  return Lines{};
 }
 
 bool SameName(std::string_view one, std::string_view other) {
@@ -32,6 +37,7 @@ bool SameName(std::string_view one, std::string_view other) {
 }
 
 std::optional<std::string_view> SectionName(std::string_view line) {
+  if (line.starts_with(kUtf8Mark)) line.remove_prefix(kUtf8Mark.size());
   line = Trim(line);
   const auto close = line.find(']');
   if (line.empty() || line.front() != '[' || close == std::string_view::npos) return std::nullopt;
@@ -100,17 +106,11 @@ void SetKey(Lines& lines, const std::string& section, const std::string& key,
   lines.insert(lines.begin() + place, line);
 }
 
-bool IsProtected(const std::filesystem::path& file) {
-  std::error_code failure;
-  if (!std::filesystem::exists(file, failure)) return false;
-  return !std::fstream(file, std::ios::binary | std::ios::in | std::ios::out);
-}
-
 }  // namespace
 
 std::string ReadIniValue(const std::string& section, const std::string& key,
                          const std::string& defaultValue, const std::filesystem::path& file) {
-  const Lines lines = ReadLines(file);
+  const Lines lines = ReadLines(file).value_or(Lines{});
   const auto found = FindSection(lines, section);
   const auto place = found ? FindKey(lines, *found, key) : std::nullopt;
   const std::string value = place ? ValueOf(lines[*place]) : "";
@@ -119,11 +119,10 @@ std::string ReadIniValue(const std::string& section, const std::string& key,
 
 bool WriteIniValue(const std::string& section, const std::string& key, const std::string& value,
                    const std::filesystem::path& file) {
-  // Renaming a new file over it would get around the protection, and lose lines that it hides.
-  if (IsProtected(file)) return false;
-  Lines lines = ReadLines(file);
-  SetKey(lines, section, key, value);
-  return !WriteWholeFile(file, TextOf(lines));
+  auto lines = ReadLines(file);
+  if (!lines) return false;
+  SetKey(*lines, section, key, value);
+  return !WriteWholeFile(file, TextOf(*lines));
 }
 
 }  // namespace corvane

@@ -1,12 +1,19 @@
 #include "support/WholeFile.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <fstream>
 #include <system_error>
+
+#if __has_include(<unistd.h>)
+#include <unistd.h>
+#endif
 
 namespace corvane {
 
 namespace {
+
+using std::filesystem::path;
 
 /// Streams tell that they failed but not why; errno still holds the reason of the system call that
 /// made them fail.
@@ -14,18 +21,95 @@ std::string LastReason() {
   return std::generic_category().message(errno != 0 ? errno : EIO);
 }
 
-/// Why the file could not be made; empty for success.
-std::string WriteNew(const std::filesystem::path& file, std::string_view content) {
+/// Why what stands there is no file; empty for a file, and where nothing stands.
+std::string WhyNoFile(const path& file) {
+  std::error_code failure;
+  const auto status = std::filesystem::status(file, failure);
+  if (status.type() == std::filesystem::file_type::not_found || is_regular_file(status)) return "";
+  if (failure) return failure.message();
+  return is_directory(status) ? std::generic_category().message(EISDIR) : "Not a regular file";
+}
+
+/// Why the file must not be replaced, though its folder may let it happen; empty when it may.
+std::string WhyNotReplaced(const path& file) {
+  using std::filesystem::perms;
+  if (std::string reason = WhyNoFile(file); !reason.empty()) return reason;
+  std::error_code failure;
+  const auto status = std::filesystem::status(file, failure);
+  if (!exists(status)) return "";
+  // The superuser may write what nobody is meant to write.
+  const auto write = perms::owner_write | perms::group_write | perms::others_write;
+  if ((status.permissions() & write) == perms::none) return std::generic_category().message(EACCES);
   errno = 0;
-  std::ofstream out(file, std::ios::binary | std::ios::trunc);
-  out.write(content.data(), static_cast<std::streamsize>(content.size()));
-  out.close();
-  return out ? "" : LastReason();
+  return std::ofstream(file, std::ios::binary | std::ios::app) ? "" : LastReason();
+}
+
+/// The file that a link leads to, which need not exist yet; any other path as it is.
+path Followed(path file) {
+  constexpr int kMostLinks = 40;
+  std::error_code failure;
+  for (int i = 0; i < kMostLinks && std::filesystem::is_symlink(file, failure); ++i) {
+    file = file.parent_path() / std::filesystem::read_symlink(file, failure);
+  }
+  return file;
+}
+
+struct NewFile {
+  path name;
+  std::FILE* stream = nullptr;
+};
+
+/// Makes a file under a name that none had, in the folder of the one that it is to replace; no
+/// stream where that fails.
+NewFile MakeBeside(const path& file) {
+  for (int number = 1;; ++number) {
+    const path name = file.parent_path() / (".corvane" + std::to_string(number) + ".new");
+    errno = 0;
+    std::FILE* stream = std::fopen(name.string().c_str(), "wbx");
+    if (stream || errno != EEXIST) return {name, stream};
+  }
+}
+
+/// Puts what was written on the disk, where the file system knows how to.
+bool Sync([[maybe_unused]] std::FILE* stream) {
+#if __has_include(<unistd.h>)
+  return fsync(fileno(stream)) == 0 || errno == EINVAL;
+#else
+  return true;
+#endif
+}
+
+/// Fills and closes the file. Why that failed; empty for success.
+std::string Fill(std::FILE* stream, std::string_view content) {
+  errno = 0;
+  const bool filled = std::fwrite(content.data(), 1, content.size(), stream) == content.size() &&
+                      std::fflush(stream) == 0 && Sync(stream);
+  const std::string reason = filled ? "" : LastReason();
+  std::fclose(stream);
+  return reason;
+}
+
+/// Puts a new file in the place of this one, or of none. Why that failed; empty for success.
+std::string Replace(const path& file, std::string_view content) {
+  const NewFile beside = MakeBeside(file);
+  if (!beside.stream) return LastReason();
+  std::error_code failure;
+  const auto replaced = std::filesystem::status(file, failure);
+  // Before the content: nobody reads it who could not read the old one.
+  if (exists(replaced)) std::filesystem::permissions(beside.name, replaced.permissions(), failure);
+  std::string reason = Fill(beside.stream, content);
+  failure.clear();
+  if (reason.empty()) std::filesystem::rename(beside.name, file, failure);
+  if (failure) reason = failure.message();
+  if (!reason.empty()) std::filesystem::remove(beside.name, failure);
+  return reason;
 }
 
 }  // namespace
 
-std::variant<std::string, FileError> ReadWholeFile(const std::filesystem::path& file) {
+std::variant<std::string, FileError> ReadWholeFile(const path& file) {
+  // A pipe would keep the program waiting.
+  if (std::string reason = WhyNoFile(file); !reason.empty()) return FileError{file, reason};
   errno = 0;
   std::ifstream in(file, std::ios::binary);
   if (!in) return FileError{file, LastReason()};
@@ -38,16 +122,11 @@ std::variant<std::string, FileError> ReadWholeFile(const std::filesystem::path& 
   return content;
 }
 
-std::optional<FileError> WriteWholeFile(const std::filesystem::path& file,
-                                        std::string_view content) {
-  std::filesystem::path beside = file;
-  beside += ".new";
-  std::string reason = WriteNew(beside, content);
-  std::error_code failure;
-  if (reason.empty()) std::filesystem::rename(beside, file, failure);
-  if (failure) reason = failure.message();
+std::optional<FileError> WriteWholeFile(const path& file, std::string_view content) {
+  const path followed = Followed(file);
+  std::string reason = WhyNotReplaced(followed);
+  if (reason.empty()) reason = Replace(followed, content);
   if (reason.empty()) return std::nullopt;
-  std::filesystem::remove(beside, failure);
   return FileError{file, reason};
 }
 

@@ -15,11 +15,12 @@ struct FileError {
   std::string reason;
 };
 
-/// The bytes of a file.
+/// The bytes of a file; folders, pipes and devices are none.
 std::variant<std::string, FileError> ReadWholeFile(const std::filesystem::path& file);
 
-/// Writes a file as a whole: first a new one beside it, which then takes its place, so that a
-/// failure leaves what was there before.
+/// Writes a file as a whole: first a new one beside it, which is on the disk before it takes the
+/// old one's place, so that a failure leaves what was there before. A link is followed, the mode of
+/// the old file is kept, and a write-protected file is not replaced.
 std::optional<FileError> WriteWholeFile(const std::filesystem::path& file,
                                         std::string_view content);
 

@@ -1,11 +1,13 @@
 #include "windows/frame/Routes.h"
 
 #include "disclosure/EntrySequence.h"
+#include "platform/ProgramFolder.h"
 #include "windows/disclosure/DisclosureEntryWindow.h"
 #include "windows/disclosure/DisclosureResultsWindow.h"
 #include "windows/disclosure/DisclosureSetupWindow.h"
 #include "windows/disclosure/TierTableWindow.h"
 #include "windows/frame/WindowRegistry.h"
+#include "windows/help/HelpWindow.h"
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
 #include "windows/start/MainMenu.h"
@@ -42,6 +44,16 @@ void Routes::ShowAbout() {
   windows_.RunModal(windows_.Get<AboutWindow>());
 }
 
+std::optional<Refusal> Routes::ShowHelp(int context) {
+  auto refusal = windows_.Get<HelpWindow>().Open(HelpFile(), context);
+  if (refusal) {
+    windows_.Discard<HelpWindow>();
+  } else {
+    windows_.Show<HelpWindow>();
+  }
+  return refusal;
+}
+
 void Routes::StartDisclosure() {
   session().workflow = Workflow::Disclosure;
   session().disclosure = {};
@@ -55,11 +67,16 @@ void Routes::StartStatement() {
   Go<StatementSetupWindow>();
 }
 
+void Routes::GoToMainMenu() {
+  windows_.Discard<HelpWindow>();
+  Go<MainMenu>();
+}
+
 void Routes::ShowMainMenu() {
   session().header = {};
   session().disclosure = {};
   session().statement = {};
-  Go<MainMenu>();
+  GoToMainMenu();
 }
 
 void Routes::ContinueDisclosureSetup() {
@@ -93,7 +110,7 @@ void Routes::NewDisclosure() {
 
 void Routes::ShowMainMenuKeepingHeader() {
   session().disclosure = {};
-  Go<MainMenu>();
+  GoToMainMenu();
 }
 
 void Routes::ContinueTierTable(const TierTable& tiers) {

@@ -12,18 +12,19 @@ namespace {
 
 class ReportFile : public testing::Test {
  protected:
-  ReportFile() { WriteWholeFile(template_, "one ^tag^\r\ntwo ^x^\n\nth\rree ^x^"); }
+  ReportFile() { WriteWholeFile(template_, "one ^tag^\r\ntwo ^x^\n\nth\rree ^x^\n^datarow^"); }
 
   const TemporaryFolder folder_;
   const std::filesystem::path template_ = folder_.Path() / "template.txt";
   const std::filesystem::path output_ = folder_.Path() / "report.html";
-  const ReportContent content_ = {{{"^tag^", {"1"}}}, {}};
+  const ReportContent content_ = {{{"^tag^", {"1"}}}, {SameRows(kRowMarker, {"row"})}};
 };
 
 TEST_F(ReportFile, EveryLineEndsInCrLfAndEveryUnknownTagIsTold) {
   const WrittenReport report = WriteReport(template_, output_, content_);
-  EXPECT_EQ(std::get<std::string>(ReadWholeFile(output_)), "one 1\r\ntwo ?\r\n\r\nth\rree ?\r\n");
-  EXPECT_EQ(report.text, "one 1two ?th\rree ?");
+  EXPECT_EQ(std::get<std::string>(ReadWholeFile(output_)),
+            "one 1\r\ntwo ?\r\n\r\nth\rree ?\r\nrow\r\n");
+  EXPECT_EQ(report.text, "one 1two ?th\rree ?row");
   ASSERT_EQ(report.messages.size(), 2u);
   for (const Refusal& message : report.messages) {
     EXPECT_EQ(message.text, "Unrecognized Tag String = ^x^ from Horizontal Template File");
@@ -36,17 +37,34 @@ TEST_F(ReportFile, TheLastMessageNamesThePathAndTheReasonOfAFailure) {
   WriteWholeFile(output_, "previous report");
   const auto missing = folder_.Path() / "missing.txt";
   const auto nowhere = folder_.Path() / "nowhere" / "report.html";
-  const std::pair<WrittenReport, std::filesystem::path> cases[] = {
-      {WriteReport(missing, output_, content_), missing},
-      {WriteReport(template_, nowhere, content_), nowhere},
+  const auto rowless = folder_.Path() / "rowless.txt";
+  const auto binary = folder_.Path() / "binary.txt";
+  WriteWholeFile(rowless, "^tag^");
+  WriteWholeFile(binary, std::string("^datarow^\0", 10));
+  const struct {
+    std::filesystem::path source, target, named;
+    std::string reason;
+  } cases[] = {
+      {missing, output_, missing, "No such file or directory"},
+      {template_, nowhere, nowhere, "No such file or directory"},
+      {folder_.Path(), output_, folder_.Path(), "Is a directory"},
+      {rowless, output_, rowless, "The template holds no data row"},
+      {binary, output_, binary, "The template is no text file"},
+      {template_, "report.html", "report.html", "There is no documents folder"},
   };
-  for (const auto& [report, path] : cases) {
-    EXPECT_FALSE(report.text.has_value()) << path;
+  for (const auto& [source, target, named, reason] : cases) {
+    const WrittenReport report = WriteReport(source, target, content_);
+    EXPECT_FALSE(report.text.has_value()) << named;
     EXPECT_EQ(report.messages.back().text,
-              "The report could not be written: " + PathText(path) + "\nNo such file or directory");
+              "The report could not be written: " + PathText(named) + "\n" + reason);
     EXPECT_EQ(report.messages.back().title, "Error!");
   }
   EXPECT_EQ(std::get<std::string>(ReadWholeFile(output_)), "previous report");
+  WriteWholeFile(template_, "^datarow^\n^a^^b^^c^^d^^e^");
+  const WrittenReport report = WriteReport(template_, output_, content_);
+  ASSERT_EQ(report.messages.size(), 4u);
+  EXPECT_EQ(report.messages.back().text,
+            "Further Unrecognized Tag Strings from Horizontal Template File: 2");
 }
 
 TEST_F(ReportFile, OnlyTheNameOfTheChosenFileDecidesAboutTheSavedOne) {

@@ -27,7 +27,7 @@ class IniFile : public testing::Test {
 TEST_F(IniFile, WhatIsRead) {
   const std::pair<const char*, std::string> cases[] = {
       {"[Options]\r\nStartup Intro=Yes\r\n", "Yes"},
-      {"[OPTIONS]\nstartup intro=yes", "yes"},
+      {"\xEF\xBB\xBF[OPTIONS]\nstartup intro=yes", "yes"},
       {"  [ Options ] \r\n\t Startup Intro \t=  Yes  \r\n", "Yes"},
       {"[Options]\r\nStartup Intro=' Yes '\r\n", " Yes "},
       {"[Options]\r\nStartup Intro=\"Yes\r\n", "\"Yes"},
@@ -45,7 +45,7 @@ TEST_F(IniFile, WhatIsRead) {
 
 TEST_F(IniFile, WritingKeepsAllOtherLines) {
   const std::pair<const char*, const char*> cases[] = {
-      {"[Options]\nA=1", "[Options]\r\nA=1\r\nStartup Intro=Yes\r\n"},
+      {"\xEF\xBB\xBF[Options]\nA=1", "\xEF\xBB\xBF[Options]\r\nA=1\r\nStartup Intro=Yes\r\n"},
       {"; note\r\n[X]\r\nStartup Intro=3\r\n",
        "; note\r\n[X]\r\nStartup Intro=3\r\n[Options]\r\nStartup Intro=Yes\r\n"},
       {"[options]\r\n# note\r\nstray\r\nSTARTUP INTRO=No\r\n\r\n[X]\r\nB=2\r\n",

@@ -41,6 +41,23 @@ TEST_F(WholeFile, WhatCannotBeReadOrWrittenStaysAsItWas) {
   }
 }
 
+TEST_F(WholeFile, TheNewFileTakesThePlaceTheModeAndTheLinkOfTheOld) {
+  namespace fs = std::filesystem;
+  const auto beside = folder_.Path() / PathOf("r\xC3\xA9sum\xC3\xA9.html.new");
+  const auto link = folder_.Path() / "link";
+  WriteWholeFile(beside, "another file");
+  fs::create_symlink(file_.filename(), link);
+  fs::permissions(file_, fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_FALSE(WriteWholeFile(link, "new"));
+  EXPECT_TRUE(fs::is_symlink(link));
+  EXPECT_EQ(std::get<std::string>(ReadWholeFile(file_)), "new");
+  EXPECT_EQ(fs::status(file_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(std::get<std::string>(ReadWholeFile(beside)), "another file");
+  fs::permissions(file_, fs::perms::owner_read);
+  EXPECT_TRUE(WriteWholeFile(link, "newer").has_value()) << "write-protected";
+  EXPECT_EQ(std::get<std::string>(ReadWholeFile(file_)), "new");
+}
+
 #if __has_include(<sys/resource.h>)
 TEST_F(WholeFile, AWriteThatBreaksOffLeavesThePreviousFile) {
   rlimit previous{};

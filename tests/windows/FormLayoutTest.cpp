@@ -5,6 +5,7 @@
 #include "windows/disclosure/DisclosureResultsWindow.h"
 #include "windows/disclosure/DisclosureSetupWindow.h"
 #include "windows/frame/CalendarPopup.h"
+#include "windows/help/HelpWindow.h"
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
 #include "windows/start/MainMenu.h"
@@ -73,6 +74,7 @@ TEST_F(FormLayout, EveryWindowCanBeReadAndUsedByKeyboardOnASmallScreen) {
   Examine<DisclaimerWindow>();
   Examine<MainMenu>();
   Examine<AboutWindow>();
+  Examine<HelpWindow>();
   Examine<DisclosureSetupWindow>();
   Examine<DisclosureEntryWindow>();
   Examine<DisclosureResultsWindow>();

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
+#include "platform/HelpView.h"
 #include "platform/WebView.h"
 
 /// Runs the window tests without a display, in a home folder of their own.
@@ -12,6 +13,7 @@ int main(int argc, char** argv) {
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
   qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
   corvane::PrepareWebView();
+  corvane::PrepareHelpView();
   QApplication application(argc, argv);
   QApplication::setApplicationVersion(CORVANE_VERSION);
   QApplication::setQuitOnLastWindowClosed(false);

@@ -14,6 +14,7 @@ namespace corvane {
 
 namespace {
 
+constexpr int kHelpContext = 7;
 constexpr int kColumns = 7;
 constexpr int kRows = 6;
 constexpr int kMonthsOfYear = 12;
@@ -32,6 +33,7 @@ CalendarPopup::CalendarPopup(WindowRegistry& registry)
         static_cast<QObject*>(ui_->LabelNextYear)}) {
     part->installEventFilter(this);
   }
+  BindHelp(kHelpContext);
 }
 
 CalendarPopup::~CalendarPopup() = default;

@@ -3,9 +3,7 @@
 #include <QtWidgets>
 
 #include "account/NumericEntry.h"
-#include "platform/HelpViewer.h"
 #include "platform/MessageBox.h"
-#include "platform/ProgramFolder.h"
 #include "support/NumberText.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -211,17 +209,24 @@ bool Form::CommitFor(QAction* item) {
 }
 
 void Form::ShowHelpTopic(int context) {
-  ShowHelp(this, HelpFile(), context);
+  if (const auto refusal = routes().ShowHelp(context)) Tell(*refusal);
+}
+
+void Form::BindHelp(int context) {
+  // Help changes nothing in the form, so that the field which has the focus is not left for it.
+  const auto show = [this, context] { ShowHelpTopic(context); };
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, show);
+  if (auto* item = findChild<QAction*>("mnuHelpTopics")) {
+    connect(item, &QAction::triggered, this, show);
+  }
 }
 
 void Form::BindCommonMenus(int helpContext) {
   for (auto* item : findChildren<QAction*>()) {
     if (item->objectName() == "mnuExit") OnMenu(item, [this] { windows_.EndProgram(); });
     if (item->objectName() == "mnuHelpAbout") OnMenu(item, [this] { routes().ShowAbout(); });
-    if (item->objectName() == "mnuHelpTopics") {
-      OnMenu(item, [this, helpContext] { ShowHelpTopic(helpContext); });
-    }
   }
+  BindHelp(helpContext);
 }
 
 void Form::closeEvent(QCloseEvent* event) {

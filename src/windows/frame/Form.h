@@ -101,7 +101,10 @@ class Form : public QMainWindow {
   /// Called by a LostFocus handler that refuses: the focus returns to the field.
   void HoldFocus(QWidget* field);
 
+  /// Opens the help at a topic, or tells why it cannot be opened.
   void ShowHelpTopic(int context);
+  /// Lets F1 and the item Topics, where the form has it, open the help at a topic.
+  void BindHelp(int context);
   /// Wires the items that every window's menus share, as far as the form has them: Exit, Topics
   /// with the window's help context, About.
   void BindCommonMenus(int helpContext);

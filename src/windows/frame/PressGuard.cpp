@@ -18,6 +18,14 @@ quint64 LongestPause(const QInputEvent& press) {
   return static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
 }
 
+/// The filter sees every event of the program. What the browser makes for itself cannot be asked
+/// what it is, so that it is looked for.
+bool IsWindow(const QObject* receiver) {
+  const QWindowList windows = QGuiApplication::allWindows();
+  return std::any_of(windows.begin(), windows.end(),
+                     [receiver](const QWindow* window) { return window == receiver; });
+}
+
 }  // namespace
 
 PressGuard::PressGuard() {
@@ -44,19 +52,18 @@ bool PressGuard::GoesOn(const QInputEvent& press) {
 }
 
 bool PressGuard::eventFilter(QObject* watched, QEvent* event) {
-  // A press comes to a window of the window system first, and from there to the controls.
-  if (!watched->isWindowType()) return false;
   switch (event->type()) {
     case QEvent::ShortcutOverride:  // comes before an access key acts
     case QEvent::KeyPress:
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-      if (!GoesOn(*static_cast<QInputEvent*>(event))) return false;
+      // A press comes to a window of the window system first, and from there to the controls.
+      if (!IsWindow(watched) || !GoesOn(*static_cast<QInputEvent*>(event))) return false;
       event->accept();
       return true;
     case QEvent::KeyRelease:
     case QEvent::MouseButtonRelease:
-      last_ = InputOf(*static_cast<QInputEvent*>(event));
+      if (IsWindow(watched)) last_ = InputOf(*static_cast<QInputEvent*>(event));
       return false;
     default:
       return false;

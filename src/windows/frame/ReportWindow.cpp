@@ -6,6 +6,7 @@
 #include "platform/ProgramFolder.h"
 #include "platform/SaveDialog.h"
 #include "platform/WebView.h"
+#include "reports/DataFolder.h"
 #include "reports/SaveName.h"
 #include "support/Paths.h"
 #include "support/WholeFile.h"
@@ -40,6 +41,8 @@ void ReportWindow::PlaceView(QWidget* frame, const QString& viewName) {
 }
 
 void ReportWindow::BuildReport() {
+  // The folder may have gone, or become possible, since the program started.
+  session().dataFolder = MakeDataFolder(DocumentsFolder());
   const std::filesystem::path output = session().dataFolder / names_.outputName;
   WrittenReport report = WriteReport(ProgramFolder() / names_.templateName, output, Content());
   if (!report.text) view_->ShowNotice("No report was built.");
@@ -49,7 +52,9 @@ void ReportWindow::BuildReport() {
 }
 
 void ReportWindow::Print() {
-  if (text_) view_->Print();
+  if (text_ && !view_->Print()) {
+    Tell({"The report could not be printed.", "", "Error!", MessageIcon::None});
+  }
 }
 
 bool ReportWindow::MayReplace(const std::filesystem::path& chosen,
@@ -66,7 +71,8 @@ void ReportWindow::SaveCopy() {
   if (!chosen) return;
   const std::filesystem::path asked = PathOf(chosen->toStdString());
   const std::filesystem::path path = SavePathFor(asked);
-  if (MayReplace(asked, path)) WriteWholeFile(path, SavedText(*text_));
+  if (!MayReplace(asked, path)) return;
+  if (const auto error = WriteWholeFile(path, SavedText(*text_))) Tell(ReportNotWritten(*error));
 }
 
 }  // namespace corvane

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "account/Refusal.h"
 #include "account/TierTable.h"
 #include "statement/DailyBalances.h"
 
@@ -19,11 +20,14 @@ class Routes {
   // Start.
   void ShowDisclaimer();
   void LeaveDisclaimer();
-  void OpenAbout();        ///< beside the disclaimer
-  void ShowAbout();        ///< above any other window, which waits
+  void OpenAbout();  ///< beside the disclaimer
+  void ShowAbout();  ///< above any other window, which waits
+  /// The help, at the topic of a context number, beside every other window; or why it has none.
+  std::optional<Refusal> ShowHelp(int context);
   void StartDisclosure();  ///< a new account, at the disclosure setup
   void StartStatement();   ///< a new account, at the statement setup
 
+  // To the main menu, which also closes the help.
   void ShowMainMenu();               ///< nothing of the account is kept
   void ShowMainMenuKeepingHeader();  ///< but for the identification
 
@@ -53,6 +57,7 @@ class Routes {
   /// Shows a main window in place of the one that is left.
   template <class Window>
   void Go();
+  void GoToMainMenu();
   Session& session();
 
   WindowRegistry& windows_;

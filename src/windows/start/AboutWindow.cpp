@@ -16,6 +16,7 @@ namespace corvane {
 
 namespace {
 
+constexpr int kHelpContext = 6;
 constexpr const char* kSupportContact = "corvane-support@example.org";
 
 }  // namespace
@@ -25,6 +26,7 @@ AboutWindow::AboutWindow(WindowRegistry& registry)
   ui_->setupUi(this);
   OnClick(ui_->cmdOK, [this] { windows().Close(*this); });
   OnClick(ui_->cmdSysInfo, [this] { cmdSysInfo_Click(); });
+  BindHelp(kHelpContext);
 }
 
 AboutWindow::~AboutWindow() = default;

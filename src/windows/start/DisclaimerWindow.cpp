@@ -8,12 +8,19 @@
 
 namespace corvane {
 
+namespace {
+
+constexpr int kHelpContext = 5;
+
+}  // namespace
+
 DisclaimerWindow::DisclaimerWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::DisclaimerWindow>()) {
   ui_->setupUi(this);
   OnClick(ui_->cmdOK, [this] { routes().LeaveDisclaimer(); });
   OnClick(ui_->cmdAbout, [this] { routes().OpenAbout(); });
   OnClick(ui_->cmdExit, [this] { windows().EndProcess(); });
+  BindHelp(kHelpContext);
 }
 
 DisclaimerWindow::~DisclaimerWindow() = default;

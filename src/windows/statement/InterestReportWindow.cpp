@@ -11,7 +11,7 @@ namespace corvane {
 
 namespace {
 
-constexpr int kHelpContext = 15;
+constexpr int kHelpContext = 11;
 
 }  // namespace
 

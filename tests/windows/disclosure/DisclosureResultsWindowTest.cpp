@@ -1,4 +1,6 @@
 #include "platform/SaveDialog.h"
+#include "support/Paths.h"
+#include "support/WholeFile.h"
 #include "windows/disclosure/DisclosureTest.h"
 
 namespace corvane {
@@ -76,16 +78,20 @@ TEST_F(ResultsWindow, SaveAsWritesThePageUnderTheFixedName) {
     Menu("mnuFile", "mnuSave");
     EXPECT_EQ(saved(), reply == QMessageBox::Yes ? page : "");
   }
-  answer = "none/report";
-  Menu("mnuFile", "mnuSave");  // a path that cannot be written is no message
+  answer = "none/report.html";
+  Expect({"The report could not be written: " + folder.filePath(answer).toStdString() +
+              "\nNo such file or directory",
+          "Error!", MessageIcon::None});
+  Menu("mnuFile", "mnuSave");
 }
 
 TEST_F(ResultsWindow, WithoutAReportPrintAndSaveDoNothing) {
-  const auto folder = std::exchange(session.dataFolder, "/no such folder");
-  Expect(
-      {"The report could not be written: /no such folder/Disclosed_APY_Summary.html\n"
-       "No such file or directory",
-       "Error!", MessageIcon::None});
+  const auto folder = session.dataFolder;
+  std::filesystem::remove_all(folder);
+  EXPECT_FALSE(WriteWholeFile(folder, "a file where the folder should be"));
+  Expect({"The report could not be written: " + PathText(folder) +
+              "/Disclosed_APY_Summary.html\nNot a directory",
+          "Error!", MessageIcon::None});
   Compute();
   SetSaveAnswer([](const SaveQuestion&) -> std::optional<QString> {
     ADD_FAILURE() << "there is nothing to save";
@@ -93,7 +99,7 @@ TEST_F(ResultsWindow, WithoutAReportPrintAndSaveDoNothing) {
   });
   Menu("mnuFile", "mnuSave");
   Click("cmdPrint");
-  session.dataFolder = folder;
+  std::filesystem::remove(folder);
   GoTo<DisclosureEntryWindow>("cmdBack");
   Calculate();
   EXPECT_NE(Report().find("Bank"), std::string::npos) << "built anew";
