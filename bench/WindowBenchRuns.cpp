@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cstdio>
 
+#include "platform/HelpView.h"
 #include "platform/Pictures.h"
 #include "platform/ProgramFolder.h"
 #include "platform/WebView.h"
@@ -58,6 +59,7 @@ class FirstPaint : public QObject {
 
 int ShowFirstWindow(int argc, char** argv) {
   PrepareWebView();
+  PrepareHelpView();
   QApplication application(argc, argv);
   QApplication::setWindowIcon(ProgramIcon());
   FirstPaint watch;

@@ -29,17 +29,33 @@ HelpWindow::HelpWindow(WindowRegistry& registry)
       ui_(std::make_unique<Ui::HelpWindow>()),
       view_(std::make_unique<HelpView>(nullptr)) {
   ui_->setupUi(this);
+  ui_->fraFound->hide();
+  PlaceView();
+  BindButtons();
+  BindLists();
+  BindKeys();
+}
+
+HelpWindow::~HelpWindow() = default;
+
+void HelpWindow::PlaceView() {
   view_->setObjectName("HelpView");
   view_->setAccessibleName("Topic");
   ui_->split->addWidget(view_.get());
   ui_->split->setStretchFactor(1, 1);
   ui_->split->setSizes({kContentsWidth, width() - kContentsWidth});
-  ui_->fraFound->hide();
+  connect(view_.get(), &HelpView::Shown, this, &HelpWindow::TopicShown);
+}
+
+void HelpWindow::BindButtons() {
   // Nothing is entered here that a button would have to wait for, be another window modal or not.
   connect(ui_->cmdBack, &QPushButton::clicked, this, [this] { view_->GoBack(); });
   connect(ui_->cmdForward, &QPushButton::clicked, this, [this] { view_->GoForward(); });
   connect(ui_->cmdFind, &QPushButton::clicked, this, &HelpWindow::cmdFind_Click);
   connect(ui_->txtFind, &QLineEdit::returnPressed, this, &HelpWindow::cmdFind_Click);
+}
+
+void HelpWindow::BindLists() {
   const auto openEntry = [this](const QTreeWidgetItem* item) {
     const QString topic = item->data(0, kTopicRole).toString();
     if (!topic.isEmpty()) view_->ShowTopic(topic);
@@ -48,11 +64,7 @@ HelpWindow::HelpWindow(WindowRegistry& registry)
   connect(ui_->treContents, &QTreeWidget::itemActivated, this, openEntry);
   connect(ui_->lstFound, &QListWidget::itemClicked, this, &HelpWindow::OpenFound);
   connect(ui_->lstFound, &QListWidget::itemActivated, this, &HelpWindow::OpenFound);
-  connect(view_.get(), &HelpView::Shown, this, &HelpWindow::TopicShown);
-  BindKeys();
 }
-
-HelpWindow::~HelpWindow() = default;
 
 void HelpWindow::BindKeys() {
   new QShortcut(QKeySequence::Back, this, [this] { view_->GoBack(); });

@@ -35,6 +35,9 @@ class HelpWindow : public Form {
   void showEvent(QShowEvent* event) override;
 
  private:
+  void PlaceView();
+  void BindButtons();
+  void BindLists();
   void BindKeys();
   void Read(HelpBook book);
   void AddContents(const std::vector<HelpEntry>& entries, QTreeWidgetItem* above);
