@@ -34,26 +34,6 @@ class Navigation : public WindowTest {
   }
 };
 
-TEST_F(Navigation, TheDisclaimerLeadsToTheMainMenuAndTheFrameEndsTheProgram) {
-  Open<DisclaimerWindow>();
-  EXPECT_EQ(InFront<DisclaimerWindow>().windowTitle().toStdString(), " Annual Percentage Yield");
-  Click("cmdOK");
-  InFront<MainMenu>();
-  EXPECT_FALSE(IsVisible<DisclaimerWindow>());
-  EXPECT_TRUE(std::filesystem::is_directory(session.dataFolder));
-  EXPECT_FALSE(windows.HasEnded());
-  session.header.institution = "First Bank";
-  CloseByFrame();
-  EXPECT_TRUE(windows.HasEnded());
-  EXPECT_EQ(session.header.institution, "") << "the orderly way out clears the identification";
-}
-
-TEST_F(Navigation, TheFrameOfTheFirstWindowEndsTheProgram) {
-  Open<DisclaimerWindow>();
-  CloseByFrame();
-  EXPECT_TRUE(windows.HasEnded());
-}
-
 TEST_F(Navigation, ADoubleClickThatChangesTheWindowIsOnePress) {
   const struct {
     QPoint away;
@@ -85,9 +65,15 @@ TEST_F(Navigation, AKeyThatChangesTheWindowActsOnceWhetherPressedTwiceOrHeld) {
   EXPECT_FALSE(IsVisible<MainMenu>());
 }
 
-TEST_F(Navigation, AWindowThatIsLeftTakesNoMoreInput) {
+TEST_F(Navigation, AWindowThatIsLeftOrBelowAnotherTakesNoInput) {
   Open<MainMenu>();
   auto* other = Get<QPushButton>("cmdAcctAdv");
+  WhenShown<AboutWindow>([this, other] {
+    other->click();
+    CloseByFrame();
+  });
+  Menu("mnuAbout");
+  InFront<MainMenu>();
   Click("cmdStatement");
   other->click();
   InFront<StatementSetupWindow>();
@@ -128,37 +114,12 @@ TEST_F(Navigation, ExitOfTheDisclaimerEndsTheProcessWhateverElseIsOpen) {
   EXPECT_EQ(session.header.institution, "First Bank") << "no window was closed as by its frame";
 }
 
-TEST_F(Navigation, AboutIsModalOverTheMainMenuAlsoWhenItWasLeftOpenAndItsFrameClosesOnlyIt) {
-  Open<DisclaimerWindow>();
-  Click("cmdAbout");
-  EXPECT_EQ(InFront<AboutWindow>().windowTitle().toStdString(), "About Corvane Calculator");
-  EXPECT_EQ(Caption("lblVersion"), "Version 2.1.18");
-  InFront<DisclaimerWindow>();
-  Click("cmdOK");
-  InFront<MainMenu>();
-  WhenShown<AboutWindow>([this] {
-    EXPECT_EQ(QApplication::activeModalWidget(), windows.Find<AboutWindow>());
-    windows.Find<MainMenu>()->findChild<QPushButton*>("cmdStatement")->click();
-    EXPECT_TRUE(IsVisible<MainMenu>()) << "acts below another window";
-    Expect({"System Information Is Unavailable At This Time", "Corvane Calculator",
-            MessageIcon::None});
-    Click("cmdSysInfo");
-    CloseByFrame();
-  });
-  Menu("mnuHelp", "mnuAbout");
-  EXPECT_FALSE(IsVisible<AboutWindow>());
-  EXPECT_FALSE(windows.HasEnded());
-  InFront<MainMenu>();
-  CloseByFrame();
-  EXPECT_TRUE(windows.HasEnded());
-}
-
 TEST_F(Navigation, TheTitleScreenOptionIsKeptInTheSettingsFile) {
   QFile settings(QString::fromStdString(PathText(SettingsFile())));
   settings.remove();
   Open<MainMenu>();
   for (const bool checked : {true, false, true}) {
-    Menu("mnuOptions", "mnuShowTitle");
+    Menu("mnuShowTitle");
     EXPECT_EQ(Get<QAction>("mnuShowTitle")->isChecked(), checked);
     ASSERT_TRUE(settings.open(QIODevice::ReadOnly));
     EXPECT_EQ(settings.readAll().toStdString(),

@@ -6,6 +6,14 @@
 
 namespace corvane {
 
+namespace {
+
+QPoint PlaceIn(const QWidget& control, QPoint percent) {
+  return {control.width() * percent.x() / 100, control.height() * percent.y() / 100};
+}
+
+}  // namespace
+
 void WindowTest::SetUp() {
   using namespace std::chrono;
   SetToday(year{2026} / March / 15);
@@ -72,13 +80,19 @@ void WindowTest::Key(int key, Qt::KeyboardModifiers modifiers) {
   QTest::keyClick(receiver ? receiver : front_, static_cast<Qt::Key>(key), modifiers);
 }
 
-void WindowTest::Click(const QString& button) {
-  auto* control = Get<QWidget>(button);
+void WindowTest::Click(const QString& name, QPoint place) {
+  auto* control = Get<QWidget>(name);
   if (!control) return;
   Activate();
-  ASSERT_TRUE(control->isVisible() && control->isEnabled()) << button.toStdString();
-  QTest::mouseClick(control, Qt::LeftButton);
+  ASSERT_TRUE(control->isVisible() && control->isEnabled()) << name.toStdString();
+  QTest::mouseClick(control, Qt::LeftButton, {}, PlaceIn(*control, place));
   QCoreApplication::processEvents();
+}
+
+void WindowTest::DoubleClick(const QString& name, QPoint place) {
+  if (auto* control = Get<QWidget>(name)) {
+    QTest::mouseDClick(control, Qt::LeftButton, {}, PlaceIn(*control, place));
+  }
 }
 
 void WindowTest::Choose(const QString& option) {
@@ -88,20 +102,17 @@ void WindowTest::Choose(const QString& option) {
   QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
 }
 
-void WindowTest::Menu(const QString& menu, const QString& item) {
-  auto* drop = Get<QMenu>(menu);
+void WindowTest::Menu(const QString& item) {
   auto* action = front_->findChild<QAction*>(item);
-  ASSERT_TRUE(drop && action);
+  const auto menus = front_->findChildren<QMenu*>();
+  const auto drop = std::ranges::find_if(
+      menus, [action](const QMenu* menu) { return menu->actions().contains(action); });
+  ASSERT_TRUE(action && drop != menus.end()) << "no item " << item.toStdString();
   QMenuBar* bar = front_->menuBar();
-  QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(drop->menuAction()).center());
-  ASSERT_TRUE(QTest::qWaitFor([drop] { return drop->isVisible(); }));
-  QTest::mouseClick(drop, Qt::LeftButton, {}, drop->actionGeometry(action).center());
+  QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry((*drop)->menuAction()).center());
+  ASSERT_TRUE(QTest::qWaitFor([drop] { return (*drop)->isVisible(); }));
+  QTest::mouseClick(*drop, Qt::LeftButton, {}, (*drop)->actionGeometry(action).center());
   QCoreApplication::processEvents();
-}
-
-std::string WindowTest::Text(const QString& field) const {
-  const auto* edit = Get<QLineEdit>(field);
-  return edit ? edit->displayText().toStdString() : "";
 }
 
 std::string WindowTest::Caption(const QString& label) const {

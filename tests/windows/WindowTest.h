@@ -29,7 +29,6 @@ class WindowTest : public ::testing::Test {
 
   /// The boxes that the following acts will raise, in order.
   void Expect(ExpectedBox box) { boxes.push_back(std::move(box)); }
-  void ExpectText(const std::string& text) { Expect({.text = text}); }
 
   /// Makes the form the one that the following acts are done in, waiting until it is in front.
   template <class AForm>
@@ -65,10 +64,12 @@ class WindowTest : public ::testing::Test {
   void Keys(const QString& text);
   /// Presses a key in the menu that is open, else in the control that has the focus.
   void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-  void Click(const QString& button);
+  /// Clicks a control at a place in percent of its size.
+  void Click(const QString& control, QPoint place = {50, 50});
+  void DoubleClick(const QString& control, QPoint place);
   void Choose(const QString& option);
-  /// Opens the menu with the mouse and clicks its item.
-  void Menu(const QString& menu, const QString& item);
+  /// Opens the menu that has the item with the mouse and clicks the item.
+  void Menu(const QString& item);
   /// What to do in a modal window that the next act opens: the act comes back when it has closed.
   template <class AForm>
   void WhenShown(std::function<void()> doThere) {
@@ -80,13 +81,10 @@ class WindowTest : public ::testing::Test {
   /// Closes the window in front by its frame.
   void CloseByFrame() { front_->close(); }
 
-  std::string Text(const QString& field) const;
   std::string Caption(const QString& label) const;
-  bool IsShown(const QString& control) const { return Get<QWidget>(control)->isVisible(); }
   bool IsEnabled(const QString& control) const { return Get<QWidget>(control)->isEnabled(); }
   /// Name of the control that has the focus.
   std::string Focus() const;
-  bool IsChosen(const QString& option) const { return Get<QRadioButton>(option)->isChecked(); }
 
   Session session;
   WindowRegistry windows{session};

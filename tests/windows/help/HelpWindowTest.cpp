@@ -1,9 +1,14 @@
 #include "windows/help/HelpWindow.h"
 
-#include "windows/disclosure/DisclosureTest.h"
+#include "windows/WindowTest.h"
+#include "windows/disclosure/DisclosureEntryWindow.h"
+#include "windows/disclosure/DisclosureResultsWindow.h"
+#include "windows/disclosure/DisclosureSetupWindow.h"
+#include "windows/disclosure/TierTableWindow.h"
 #include "windows/frame/CalendarPopup.h"
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
+#include "windows/start/MainMenu.h"
 #include "windows/statement/DailyBalancesWindow.h"
 #include "windows/statement/InterestReportWindow.h"
 #include "windows/statement/StatementEntryWindow.h"
@@ -13,7 +18,7 @@
 namespace corvane {
 namespace {
 
-class Help : public DisclosureTest {
+class Help : public WindowTest {
  protected:
   /// The help is in front, shows the topic and stands at it in the contents.
   void ExpectTopic(const QString& title) {
@@ -67,33 +72,9 @@ TEST_F(Help, F1OpensTheTopicOfEachWindow) {
   EXPECT_FALSE(windows.HasEnded());
 }
 
-TEST_F(Help, MenuAndButtonOpenItTooAndARefusedEntryDoesNotKeepItAway) {
-  Menu("mnuHelp", "mnuHelpTopics");
-  ExpectTopic("Disclosure setup");
-  InFront<DisclosureSetupWindow>();
-  Continue("optICMonths");
-  Type("txtTerm", "0");
-  Menu("mnuHelp", "mnuHelpTopics");
-  ExpectTopic("Disclosure entry");
-  windows.Show<MainMenu>();
-  InFront<MainMenu>();
-  Click("cmdHelp");
-  ExpectTopic("Main menu");
-}
-
-TEST_F(Help, TheMainMenuClosesItAndTheEndOfTheProgramDoes) {
-  Key(Qt::Key_F1);
-  InFront<DisclosureSetupWindow>();
-  GoTo<MainMenu>("cmdExit");
-  EXPECT_FALSE(IsVisible<HelpWindow>());
-  Key(Qt::Key_F1);
-  InFront<MainMenu>();
-  CloseByFrame();
-  EXPECT_TRUE(windows.HasEnded());
-  EXPECT_FALSE(IsVisible<HelpWindow>());
-}
-
 TEST_F(Help, TopicsAreReachedByContentsBackForwardAndFind) {
+  windows.Show<DisclosureSetupWindow>();
+  InFront<DisclosureSetupWindow>();
   Key(Qt::Key_F1);
   ExpectTopic("Disclosure setup");
   EXPECT_FALSE(IsEnabled("cmdBack"));
@@ -113,7 +94,8 @@ TEST_F(Help, TopicsAreReachedByContentsBackForwardAndFind) {
 }
 
 TEST_F(Help, IsUsableBesideTheModalWindowThatAskedForIt) {
-  GoTo<MainMenu>("cmdExit");
+  windows.Show<MainMenu>();
+  InFront<MainMenu>();
   WhenShown<AboutWindow>([this] {
     Key(Qt::Key_F1);
     ExpectTopic("About");
@@ -124,7 +106,7 @@ TEST_F(Help, IsUsableBesideTheModalWindowThatAskedForIt) {
     InFront<AboutWindow>();
     CloseByFrame();
   });
-  Menu("mnuHelp", "mnuAbout");
+  Menu("mnuAbout");
   InFront<HelpWindow>();
   Click("cmdForward");
   ExpectTopic("Main menu");
