@@ -3,11 +3,15 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <thread>
+#include <utility>
 
 #include <QElapsedTimer>
+#include <QThread>
+#include <QTimer>
 #include <unistd.h>
 
 #include "Checks.h"
@@ -39,12 +43,7 @@ class Runner {
   int Run() {
     const std::jthread watch([this](const std::stop_token& stop) { Watch(stop); });
     while (next_ < acts_.size() && fault_.empty()) RunProgram();
-    if (!fault_.empty()) {
-      std::cerr << "act " << next_ << ": " << fault_ << std::endl;
-      return 1;
-    }
-    Report();
-    return 0;
+    return Result();
   }
 
  private:
@@ -65,14 +64,20 @@ class Runner {
   /// An act may open a window that keeps its own loop of events: the next act is then done there.
   void Step() {
     if (!windows_ || windows_->HasEnded()) return;
+    // A simulated key lets events through while its act is under way.
+    const int loops = QThread::currentThread()->loopLevel();
+    if (loops == actingIn_) return QTimer::singleShot(0, qApp, [this] { Step(); });
     Check();
-    if (next_ >= acts_.size() || !fault_.empty()) return windows_->EndProgram();
+    // At once, whatever windows are open.
+    if (next_ >= acts_.size() || !fault_.empty()) std::_Exit(Result());
     QTimer::singleShot(0, qApp, [this] { Step(); });
     if (PutAwayDialog()) return;
     const std::size_t act = next_++;
     clock_.start();
     started_ = act;
+    const int before = std::exchange(actingIn_, loops);
     person_->Do(acts_[act]);
+    actingIn_ = before;
     Finished(act);
   }
 
@@ -117,16 +122,19 @@ class Runner {
     }
   }
 
-  void Report() const {
+  int Result() const {
+    if (!fault_.empty()) std::cerr << "act " << next_ << ": " << fault_ << std::endl;
     for (const Timed& timed : slowest_) {
-      std::cout << timed.milliseconds << " ms: " << TextOf(acts_[timed.act]) << '\n';
+      std::cout << timed.milliseconds << " ms: " << TextOf(acts_[timed.act]) << std::endl;
     }
+    return fault_.empty() ? 0 : 1;
   }
 
   const std::vector<Act>& acts_;
   std::atomic<std::size_t> next_ = 0;
   std::size_t started_ = 0;
   std::size_t weighed_ = 0;
+  int actingIn_ = -1;  ///< the loop of events that an act was begun in
   long memory_ = 0;
   std::string fault_;
   QElapsedTimer clock_;
