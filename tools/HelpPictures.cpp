@@ -67,7 +67,7 @@ QString TenTiers() {
   QString keys = "[cboTotalTiers]1";
   for (int tier = 1; tier <= 10; ++tier) {
     keys += QString("[txtInt(%1)]10.1234").arg(tier);
-    if (tier < 10) keys += QString("[txt_bne(%1)]%1000000000000.99").arg(tier);
+    if (tier < 10) keys += QString("[txt_bne(%1)]%1").arg(tier) + "00000000000.99";
   }
   return keys + "\t";
 }
@@ -138,7 +138,7 @@ Steps EveryWindow() {
       {"[cmdNext] ", "entry-stepped-days"},
       {"[cmdExit] "},
       {"[cmdStatement] ", "statement-setup"},
-      {"[optICNone] [optFormulaYes] ", "statement-setup-none"},
+      {"[optICNone] [optFormulaYes] [txtDCPeriod]30", "statement-setup-none"},
       {"[cmdNext] "},
       {QString(
            "[txtDateStart]04012025[txtDateEnd]05012025[txtMinADB]%1[txtMinDBal]%1[txtDClApy]6.58"
@@ -171,6 +171,18 @@ QWidget* Front() {
   return nullptr;
 }
 
+/// Gives the focus to a control, to type over what it holds; without a name the window closes.
+void FocusOn(QWidget& window, const QString& name) {
+  if (name.isEmpty()) {
+    window.close();
+  } else if (auto* control = window.findChild<QWidget*>(name)) {
+    control->setFocus();
+    if (auto* field = qobject_cast<QLineEdit*>(control)) field->selectAll();
+  } else {
+    qWarning("no control %s in %s", qPrintable(name), qPrintable(window.objectName()));
+  }
+}
+
 /// Types keys; "&c" is Alt+C, "[txtBal]" gives the focus to a control, and "[]" closes the window.
 void Type(const QString& keys) {
   for (qsizetype k = 0; k < keys.size(); ++k) {
@@ -181,11 +193,7 @@ void Type(const QString& keys) {
       const qsizetype end = keys.indexOf(']', k);
       const QString name = keys.mid(k + 1, end - k - 1);
       k = end;
-      if (auto* control = window->findChild<QWidget*>(name); control && !name.isEmpty()) {
-        control->setFocus();
-      } else if (name.isEmpty()) {
-        window->close();
-      }
+      FocusOn(*window, name);
     } else {
       QTest::keyClick(window->focusWidget(), keys[k].toLatin1());
     }
@@ -299,9 +307,8 @@ bool MakeScreen(const QDir& folder) {
 }  // namespace corvane
 
 /// Takes pictures of the windows: goes through them with real keys, without a display, and writes
-/// the pictures into the folder that is given. Without options those of the help topics; with
-/// "windows" every window on a small screen, in a font of so many points, in dark colours if asked:
-/// FOLDER [windows POINTS [dark]].
+/// the pictures into the folder that is given: those of the help topics, or of every window on a
+/// small screen in a font of so many points. FOLDER [windows POINTS light|dark]
 int main(int argc, char** argv) {
   using namespace std::chrono;
   const QTemporaryDir home;
@@ -309,7 +316,7 @@ int main(int argc, char** argv) {
     qputenv(name, home.path().toUtf8());
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  const bool everyWindow = argc > 3;
+  const bool everyWindow = argc > 4;
   if (everyWindow && !corvane::MakeScreen(home.path())) return 1;
   corvane::PrepareWebView();
   corvane::PrepareHelpView();
@@ -320,7 +327,7 @@ int main(int argc, char** argv) {
     QFont font = QApplication::font();
     font.setPointSize(atoi(argv[3]));
     QApplication::setFont(font);
-    if (argc > 4) QApplication::setPalette(corvane::DarkPalette());
+    if (QByteArrayView(argv[4]) == "dark") QApplication::setPalette(corvane::DarkPalette());
   }
   corvane::SetToday(year{2025} / May / 2);
   corvane::Session session;

@@ -20,10 +20,9 @@ class CalendarPopup : public Form {
   explicit CalendarPopup(WindowRegistry& registry);
   ~CalendarPopup() override;
 
-  /// Shows the month of a date beside the mouse pointer, or beside the button that was pressed by a
-  /// key, and returns when the pop-up has closed: the
-  /// day that was picked, or nothing.
   bool PlacesItself() const override { return true; }
+  /// Shows the month of a date beside the mouse pointer, or beside the button that was pressed by a
+  /// key, and returns when the pop-up has closed: the day that was picked, or nothing.
   std::optional<Date> PickDate(const Date& from, const QString& caption = {});
 
  protected:

@@ -17,16 +17,24 @@ QString Caption::Words() const {
   return lines.join('\n');
 }
 
+int Caption::Flags() const {
+  return Qt::TextShowMnemonic | (wordWrap() ? Qt::TextWordWrap : 0);
+}
+
 QSize Caption::sizeHint() const {
-  const QString widest = EndsInColon() ? Words() + " :" : Words();
-  return fontMetrics().size(Qt::TextShowMnemonic, widest).grownBy(contentsMargins());
+  constexpr int kCharacters = 28;
+  const QFontMetrics metrics = fontMetrics();
+  const int width = wordWrap() ? kCharacters * metrics.averageCharWidth() : QWIDGETSIZE_MAX;
+  const QSize words = metrics.boundingRect(0, 0, width, QWIDGETSIZE_MAX, Flags(), Words()).size();
+  const int colon = EndsInColon() ? metrics.horizontalAdvance(" :") : 0;
+  return QSize(words.width() + colon, words.height()).grownBy(contentsMargins());
 }
 
 void Caption::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   const auto draw = [&](Qt::Alignment side, const QString& words) {
-    painter.drawItemText(contentsRect(), side | Qt::AlignVCenter | Qt::TextShowMnemonic, palette(),
-                         isEnabled(), words, foregroundRole());
+    painter.drawItemText(contentsRect(), side | Qt::AlignVCenter | Flags(), palette(), isEnabled(),
+                         words, foregroundRole());
   };
   draw(Qt::AlignLeft, Words());
   if (EndsInColon()) draw(Qt::AlignRight, ":");

@@ -69,6 +69,8 @@ void Form::Tell(const Refusal& refusal) {
   const bool warns = refusal.icon == MessageIcon::Exclamation;
   ShowMessage(this, QString::fromStdString(refusal.text), QString::fromStdString(refusal.title),
               warns ? QMessageBox::Warning : QMessageBox::NoIcon);
+  // An empty name would find a control without one.
+  if (refusal.field.empty()) return;
   if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
 }
 

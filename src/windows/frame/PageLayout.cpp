@@ -171,7 +171,7 @@ void LayOutPage(QWidget& window) {
 }
 
 QSize PageSize(const QWidget& window) {
-  constexpr QSize kCharacters(100, 40);
+  constexpr QSize kCharacters(124, 44);
   const QFontMetrics metrics(window.font());
   return {kCharacters.width() * metrics.averageCharWidth(),
           kCharacters.height() * metrics.lineSpacing()};
