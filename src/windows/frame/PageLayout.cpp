@@ -121,7 +121,10 @@ void AlignColumns(QWidget& window) {
   }
   for (auto* grid : grids) {
     for (int column = 0; column < kSharedColumns; ++column) {
-      if (AreLabels(ColumnOf(*grid, column))) grid->setColumnMinimumWidth(column, shared[column]);
+      const QWidgetList controls = ColumnOf(*grid, column);
+      // A grid leaves out the space beside a column that holds nothing.
+      const int space = controls.empty() ? grid->horizontalSpacing() : 0;
+      if (AreLabels(controls)) grid->setColumnMinimumWidth(column, shared[column] + space);
     }
   }
 }
