@@ -149,7 +149,7 @@ Steps EveryWindow() {
   };
   for (const Steps& more :
        {Tiers("optTierA", {"tiers-none", "tiers-a", "entry-tier-a", nullptr, "results-tier-a"}, 10),
-        Tiers("optTierB", {nullptr, "tiers-b", "entry-tier-b", "entry-tier-b-2", nullptr}, 2),
+        Tiers("optTierB", {nullptr, "tiers-b", "entry-tier-b", "entry-tier-b-2", nullptr}, 1),
         Days(1, "days-1", "statement-1", nullptr, nullptr),
         Days(31, "days-31", "statement-31", "statement-results", "interest-report"),
         Days(96, "days-96", nullptr, nullptr, nullptr)}) {

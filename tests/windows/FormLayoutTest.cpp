@@ -161,6 +161,8 @@ class FormLayout : public WindowTest {
     EXPECT_TRUE(form.width() <= kScreen.width() - kFrame.width() &&
                 form.height() <= kScreen.height() - kFrame.height())
         << "needs " << form.width() << " x " << form.height();
+    EXPECT_LE(form.minimumSizeHint().height(), kScreen.height() / 2 - kFrame.height())
+        << "at 200 percent its buttons leave the screen";
     if (!mayScroll_) ExpectReadingOrder(form);
     ExpectNamedControls(form);
     ExpectInSight(form, mayScroll_);
