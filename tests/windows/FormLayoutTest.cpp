@@ -208,6 +208,10 @@ TEST_F(FormLayout, MainWindowsStandWhereAPersonPutTheOneBeforeAndOthersAboveThem
     Click("cmdOK");
   });
   Menu("mnuHelpAbout");
+  InFront<DisclosureSetupWindow>().showMaximized();
+  Click("cmdNext");
+  EXPECT_TRUE(InFront<DisclosureEntryWindow>().isMaximized());
+  EXPECT_EQ(Front()->normalGeometry(), place);
 }
 
 }  // namespace
