@@ -121,6 +121,7 @@ class FormLayout : public WindowTest {
     WindowTest::SetUp();
     session.disclosure.setup.kind = AccountKind::Stepped;
     session.disclosure.setup.withdrawal = Unit::Months;
+    session.statement.setup.kind = AccountKind::Stepped;
     daily_.account.kind = AccountKind::Stepped;
     daily_.days.resize(kDaysPerPage);
   }

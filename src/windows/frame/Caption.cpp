@@ -10,9 +10,10 @@ bool Caption::EndsInColon() const {
 
 QString Caption::Words() const {
   static const QRegularExpression longRun(" {10,}");
+  static const QRegularExpression longRunOrRemark(" {10,}| (?=\\()");
   QString words = text().trimmed();
   if (words.endsWith(':')) words.chop(1);
-  QStringList lines = words.trimmed().split(longRun);
+  QStringList lines = words.trimmed().split(wordWrap() ? longRunOrRemark : longRun);
   for (QString& line : lines) line = line.simplified();
   return lines.join('\n');
 }

@@ -6,8 +6,8 @@ namespace corvane {
 
 /// A caption whose text was laid out with runs of blanks, such as "Disclosed APY             :". It
 /// keeps its text and is drawn without them: the words at the left, a colon that ends them at the
-/// right, where the fields begin. What stands behind a long run comes below; a caption that wraps
-/// its words does so at the length of most others.
+/// right, where the fields begin. What stands behind a long run comes below. A caption that wraps
+/// its words does so before a remark in parentheses and at the length of most others.
 class Caption : public QLabel {
   Q_OBJECT
 
