@@ -8,6 +8,7 @@
 #include "support/CalendarMonth.h"
 #include "support/Clock.h"
 #include "ui_CalendarPopup.h"
+#include "windows/frame/MonthAccess.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -45,6 +46,10 @@ CalendarPopup::CalendarPopup(WindowRegistry& registry)
   }
   const QSize cell = fontMetrics().size(Qt::TextSingleLine, "0000") * 1.1;
   ui_->picMonth->setMinimumSize(cell.width() * kColumns + 1, cell.height() * kRows + 1);
+  for (auto* label : {ui_->lblPrev, ui_->lblNext, ui_->LabelPrevYear, ui_->LabelNextYear}) {
+    label->setAccessibleName(label->toolTip());
+  }
+  MoveTo(current_);
   BindHelp(kHelpContext);
 }
 
@@ -76,6 +81,7 @@ void CalendarPopup::MoveTo(const Date& date) {
   ui_->lblMonth->setText(QLocale::c().toString(shown, "MMMM yyyy"));
   ui_->picMonth->setAccessibleName(QString::fromStdString(FormatDate(date)));
   ui_->picMonth->update();
+  TellOfCurrentDay(*ui_->picMonth, date.day());
 }
 
 QRectF CalendarPopup::CellRect(const Date& date) const {
@@ -149,9 +155,6 @@ bool CalendarPopup::picMonth_KeyDown(const QKeyEvent& press) {
     case Qt::Key_Enter:
       dateChosen_ = true;
       ui_->picMonth->update();
-      return true;
-    case Qt::Key_Escape:
-      Close();
       return true;
     default:
       return false;

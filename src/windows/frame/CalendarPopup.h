@@ -25,6 +25,11 @@ class CalendarPopup : public Form {
   /// key, and returns when the pop-up has closed: the day that was picked, or nothing.
   std::optional<Date> PickDate(const Date& from, const QString& caption = {});
 
+  /// The day that is marked, whose month is shown.
+  Date Current() const { return current_; }
+  /// Place of a day of that month in `picMonth`.
+  QRectF CellRect(const Date& date) const;
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -36,7 +41,6 @@ class CalendarPopup : public Form {
   void PressDay(const QPointF& place);
   bool picMonth_KeyDown(const QKeyEvent& press);
   bool LabelPressed(QObject* label);
-  QRectF CellRect(const Date& date) const;
   void Choose();
   void Close();
 

@@ -5,11 +5,15 @@
 #include <QThread>
 
 #include "platform/WorkArea.h"
+#include "windows/frame/MonthAccess.h"
 #include "windows/frame/PageLayout.h"
 
 namespace corvane {
 
-WindowRegistry::WindowRegistry(Session& session) : session_(session) {}
+WindowRegistry::WindowRegistry(Session& session) : session_(session) {
+  MakeOptionGroupsAccessible();
+  MakeMonthsAccessible();
+}
 
 WindowRegistry::~WindowRegistry() {
   while (!open_.empty()) {
