@@ -4,6 +4,7 @@
 
 #include "account/SlipNotice.h"
 #include "ui_TierTableWindow.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -18,6 +19,7 @@ TierTableWindow::TierTableWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::TierTableWindow>()) {
   ui_->setupUi(this);
   NameArrayElements();
+  FitToDigits(*ui_->txtTotalTiers, 2);
   for (int tier = 1; tier <= kMostTiers; ++tier) BindRow(tier);
   for (int tiers = kFewestTiers; tiers <= kMostTiers; ++tiers) {
     ui_->cboTotalTiers->addItem(QString::number(tiers));
@@ -46,6 +48,10 @@ void TierTableWindow::BindRow(int tier) {
   connect(rate, &QLineEdit::textEdited, this, [this] { rateEdited_ = true; });
   AskOnLeaving(rate, [this, tier] { return TierRateNotice(ReadBoxes(), tier); });
   OnLostFocus(rate, [this, tier](const QString& next) { txtInt_LostFocus(tier, next); });
+  if (auto* above = Box("TxtAbove", tier)) {
+    FitToDigits(*above, FieldLength::kMoney);
+    above->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  }
   if (tier == kMostTiers) return;
   auto* bound = Box("txt_bne", tier);
   BindNumeric(bound, {.repairMinus = true, .decimals = 2, .kind = "bal"});

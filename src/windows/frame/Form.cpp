@@ -6,6 +6,7 @@
 #include "platform/MessageBox.h"
 #include "support/NumberText.h"
 #include "windows/frame/DateKeys.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/PasteFilter.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -13,11 +14,19 @@ namespace corvane {
 
 namespace {
 
-/// Disabled fields show figures that have to be read: their text is fainter, not all but gone.
+/// Disabled fields show figures that have to be read, and disabled options what is chosen: their
+/// text is fainter, not all but gone. The window's own colour behind it tells such a field from one
+/// that takes an entry, in a dark palette too.
 QPalette ReadableWhenDisabled(QPalette palette) {
-  QColor text = palette.color(QPalette::Active, QPalette::Text);
-  text.setAlphaF(0.65F);
-  palette.setColor(QPalette::Disabled, QPalette::Text, text);
+  constexpr std::pair<QPalette::ColorRole, float> kFainter[] = {
+      {QPalette::Text, 0.65F}, {QPalette::WindowText, 0.45F}, {QPalette::ButtonText, 0.45F}};
+  for (const auto& [role, opacity] : kFainter) {
+    QColor text = palette.color(QPalette::Active, role);
+    text.setAlphaF(opacity);
+    palette.setColor(QPalette::Disabled, role, text);
+  }
+  palette.setColor(QPalette::Disabled, QPalette::Base,
+                   palette.color(QPalette::Active, QPalette::Window));
   return palette;
 }
 
@@ -34,6 +43,13 @@ TypedInto PlaceIn(const QLineEdit* field) {
   return {field->text().toStdU16String(),
           selected ? field->selectionStart() : field->cursorPosition(),
           static_cast<int>(field->selectedText().size())};
+}
+
+/// The most characters of a field, by its rule.
+int LengthOf(const NumericRule& rule) {
+  if (rule.decimals < 0) return FieldLength::kCount;
+  const std::string_view kind = rule.kind;
+  return kind == "bal" || kind == "userint" ? FieldLength::kMoney : FieldLength::kRate;
 }
 
 }  // namespace
@@ -55,12 +71,14 @@ Routes& Form::routes() {
 }
 
 void Form::Load() {
+  LetBodyScroll(*this);
   for (auto* button : findChildren<QAbstractButton*>()) button->installEventFilter(this);
   for (auto* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
   BindKeys();
   captions_.emplace(*this);
   Form_Load();
   captions_->Name();
+  LayOutPage(*this);
 }
 
 void Form::BindKeys() {
@@ -90,7 +108,8 @@ void Form::Tell(const Refusal& refusal) {
   const bool warns = refusal.icon == MessageIcon::Exclamation;
   ShowMessage(this, QString::fromStdString(refusal.text), QString::fromStdString(refusal.title),
               warns ? QMessageBox::Warning : QMessageBox::NoIcon);
-  if (refusal.field.empty()) return;  // which would find any part that has no name
+  // An empty name would find a control without one.
+  if (refusal.field.empty()) return;
   if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
 }
 
@@ -131,6 +150,8 @@ void Form::OnLostFocus(QWidget* field, LostFocusHandler handler) {
 
 void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
   numeric_[field] = rule;
+  FitToDigits(*field, LengthOf(rule));
+  field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   // What an input method composes would not pass the key filter.
   field->setAttribute(Qt::WA_InputMethodEnabled, false);
   connect(field, &QLineEdit::textChanged, this,
