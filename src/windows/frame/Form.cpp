@@ -5,6 +5,7 @@
 #include "account/NumericEntry.h"
 #include "platform/MessageBox.h"
 #include "support/NumberText.h"
+#include "windows/frame/HintLine.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -25,8 +26,10 @@ bool TypesCharacter(const QKeyEvent& press) {
 
 }  // namespace
 
-Form::Form(WindowRegistry& windows, Role role) : windows_(windows), role_(role) {
+Form::Form(WindowRegistry& windows, Role role)
+    : windows_(windows), role_(role), hint_(*new HintLine(this)) {
   setPalette(ReadableWhenDisabled(palette()));
+  statusBar()->addWidget(&hint_, 1);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
     const bool isControl = now && now->window() == this && !qobject_cast<QMenuBar*>(now);
     if (isControl) MoveFocus(now);
@@ -42,6 +45,7 @@ Routes& Form::routes() {
 }
 
 void Form::Load() {
+  hint_.SetNextStep(NextStepOf(objectName()));
   for (auto* button : findChildren<QAbstractButton*>()) button->installEventFilter(this);
   for (auto* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
   if (auto* bar = findChild<QMenuBar*>()) {
@@ -56,7 +60,17 @@ void Form::Tell(const Refusal& refusal) {
   const bool warns = refusal.icon == MessageIcon::Exclamation;
   ShowMessage(this, QString::fromStdString(refusal.text), QString::fromStdString(refusal.title),
               warns ? QMessageBox::Warning : QMessageBox::NoIcon);
+  ShowHint(refusal.text);
+  if (refusal.field.empty()) return;
   if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
+}
+
+void Form::ShowHint(const std::string& text) {
+  hint_.Tell(QString::fromStdString(text));
+}
+
+void Form::ShowNextStep(const std::string& text) {
+  hint_.SetNextStep(QString::fromStdString(text));
 }
 
 void Form::FocusField(QWidget* field) {
@@ -196,6 +210,7 @@ void Form::RaiseLostFocus(QWidget* field, const QString& next) {
 
 bool Form::TakeFocus(QAbstractButton* button) {
   focusHeld_ = false;
+  hint_.Forget();
   button->setFocus();
   // A field that holds on to the focus has said why already.
   if (!focusHeld_) MoveFocus(button);
@@ -204,6 +219,7 @@ bool Form::TakeFocus(QAbstractButton* button) {
 
 bool Form::CommitFor(QAction* item) {
   focusHeld_ = false;
+  hint_.Forget();
   if (focused_) RaiseLostFocus(focused_, item->objectName());
   return !focusHeld_;
 }

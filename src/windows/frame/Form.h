@@ -20,6 +20,7 @@ class QRadioButton;
 
 namespace corvane {
 
+class HintLine;
 class Routes;
 class WindowRegistry;
 struct Session;
@@ -62,6 +63,10 @@ class Form : public QMainWindow {
   /// Shows the refusal's message, then puts the focus on its field with the text selected.
   void Tell(const Refusal& refusal);
 
+  /// Says in the line at the foot of the window what has happened. It stays until the next press of
+  /// a button or menu item; then what to do next shows again.
+  void ShowHint(const std::string& text);
+
   /// Puts the focus on a field and selects its text.
   void FocusField(QWidget* field);
 
@@ -76,6 +81,9 @@ class Form : public QMainWindow {
   Session& session();
   Routes& routes();
   WindowRegistry& windows() { return windows_; }
+
+  /// Says in the line at the foot of the window what to do next.
+  void ShowNextStep(const std::string& text);
 
   /// The wiring of a form's handlers. A button and a menu item take the focus before they act, and
   /// do not act when the field that loses it holds on to it, nor when the form is not in front.
@@ -124,6 +132,7 @@ class Form : public QMainWindow {
 
   WindowRegistry& windows_;
   Role role_;
+  HintLine& hint_;
   QPointer<QWidget> focused_;
   bool focusHeld_ = false;
   std::map<const QWidget*, Handler> gotFocus_;
