@@ -149,6 +149,8 @@ class Walk : public WindowTest {
       {"box", [this](const Words& words) { Announce(words, MessageIcon::Exclamation); }},
       {"notice", [this](const Words& words) { Announce(words, MessageIcon::None); }},
       {"shows", Each([this](auto& name, auto& text) { Shows(name, text); })},
+      {"hint",
+       [this](const Words& words) { EXPECT_EQ(Caption("lblHint"), words.value(0).toStdString()); }},
       {"focus", Each([this](auto& name, auto&) { EXPECT_EQ(Focus(), name.toStdString()); })},
       {"shown", State("visible", true)},
       {"hidden", State("visible", false)},

@@ -4,13 +4,18 @@
 
 #include "disclosure/DisclosureCalculation.h"
 #include "disclosure/EntryChecks.h"
+#include "disclosure/EntryContext.h"
 #include "disclosure/EntryLayout.h"
+#include "disclosure/EntryOverview.h"
 #include "disclosure/EntrySequence.h"
 #include "disclosure/EntryTerm.h"
+#include "disclosure/NextStep.h"
 #include "platform/Pictures.h"
 #include "support/Clock.h"
 #include "ui_DisclosureEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
+#include "windows/frame/ContextLine.h"
+#include "windows/frame/EntryList.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -32,13 +37,27 @@ DisclosureEntryWindow::DisclosureEntryWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::DisclosureEntryWindow>()) {
   ui_->setupUi(this);
   NameArrayElements();
-  binding_ =
-      std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] { EnableCalendars(); });
+  BuildPlace();
+  binding_ = std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] {
+    EnableCalendars();
+    ShowTier();
+  });
   BindFields();
   BindButtons();
 }
 
 DisclosureEntryWindow::~DisclosureEntryWindow() = default;
+
+void DisclosureEntryWindow::BuildPlace() {
+  account_ = AddContextLine("lblContext");
+  tier_ = AddContextLine("lblTierContext");
+  entries_ = new EntryList(this);
+  addDockWidget(Qt::RightDockWidgetArea, entries_);
+  // Going back fills the list anew, which must not happen while it handles the click.
+  connect(
+      entries_, &EntryList::GoBackTo, this, [this](int entry) { GoBackTo(entry); },
+      Qt::QueuedConnection);
+}
 
 void DisclosureEntryWindow::BindFields() {
   for (const auto& name : DisclosureEntry::Fields()) {
@@ -102,6 +121,7 @@ void DisclosureEntryWindow::cmdSetProperties_Click() {
   const bool calculates = !check.setup.IsTiered() && IsLastEntry(check);
   ui_->cmdCalculateResult->setVisible(calculates);
   ui_->cmdNext->setVisible(!calculates);
+  ShowPlace();
 }
 
 void DisclosureEntryWindow::ShowCaptions() {
@@ -139,6 +159,25 @@ void DisclosureEntryWindow::EnableCalendars() {
   const bool enabled = TermDatesEnabled(session().disclosure, entry_.txtTerm);
   entry_.tStartDate.enabled = entry_.tEndDate.enabled = enabled;
   for (QWidget* control : termDates_) control->setEnabled(enabled);
+}
+
+void DisclosureEntryWindow::ShowPlace() {
+  const DisclosureCheck& check = session().disclosure;
+  account_->ShowContext(ContextOf(session().header, check.setup));
+  tier_->setVisible(check.setup.IsTiered());
+  entries_->setVisible(HasOverview(check.setup));
+  entries_->ShowEntries(EntryHeading(check), EntriesSoFar(check), CurrentEntry(check));
+  ShowNextStep(NextStepOfEntry(check));
+}
+
+void DisclosureEntryWindow::ShowTier() {
+  const auto [text, warns] = TierContextOf(session().disclosure, entry_.txtBal);
+  tier_->ShowContext(text, warns);
+}
+
+void DisclosureEntryWindow::GoBackTo(int entry) {
+  const int times = CurrentEntry(session().disclosure) - entry;
+  for (int i = 0; i < times; ++i) ui_->cmdBack->click();
 }
 
 void DisclosureEntryWindow::txtTerm_LostFocus(const QString& next) {

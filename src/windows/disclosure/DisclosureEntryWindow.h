@@ -12,6 +12,9 @@ class DisclosureEntryWindow;
 
 namespace corvane {
 
+class ContextLine;
+class EntryList;
+
 /// The entry window of the disclosure workflow: balance, rate, term or dates, withdrawals and the
 /// disclosed APY of an account, of a stepped period or of a tier.
 class DisclosureEntryWindow : public Form {
@@ -25,6 +28,7 @@ class DisclosureEntryWindow : public Form {
   void Form_Activate() override;
 
  private:
+  void BuildPlace();
   void BindFields();
   void BindButtons();
   void cmdSetProperties_Click();
@@ -39,9 +43,17 @@ class DisclosureEntryWindow : public Form {
   void ShowCaptions();
   void ShowGroups();
   void EnableCalendars();
+  /// Whose account and which tier it is, and which entries were made.
+  void ShowPlace();
+  void ShowTier();
+  /// Presses Back as often as it takes.
+  void GoBackTo(int entry);
   void InternalError();
 
   std::unique_ptr<Ui::DisclosureEntryWindow> ui_;
+  ContextLine* account_;
+  ContextLine* tier_;
+  EntryList* entries_;
   DisclosureEntry entry_;  ///< kept by the check when it is completed or left
   std::unique_ptr<FieldBinding<DisclosureEntry>> binding_;
   std::vector<QWidget*> termDates_;  ///< the two dates and their calendars

@@ -5,6 +5,7 @@
 #include "account/NumericEntry.h"
 #include "platform/MessageBox.h"
 #include "support/NumberText.h"
+#include "windows/frame/ContextLine.h"
 #include "windows/frame/HintLine.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -71,6 +72,12 @@ void Form::ShowHint(const std::string& text) {
 
 void Form::ShowNextStep(const std::string& text) {
   hint_.SetNextStep(QString::fromStdString(text));
+}
+
+ContextLine* Form::AddContextLine(const char* name) {
+  auto* line = new ContextLine(this, name);
+  qobject_cast<QBoxLayout*>(centralWidget()->layout())->insertWidget(contextLines_++, line);
+  return line;
 }
 
 void Form::FocusField(QWidget* field) {

@@ -20,6 +20,7 @@ class QRadioButton;
 
 namespace corvane {
 
+class ContextLine;
 class HintLine;
 class Routes;
 class WindowRegistry;
@@ -85,6 +86,9 @@ class Form : public QMainWindow {
   /// Says in the line at the foot of the window what to do next.
   void ShowNextStep(const std::string& text);
 
+  /// Puts a line above the body of the window, below those that were put there before.
+  ContextLine* AddContextLine(const char* name);
+
   /// The wiring of a form's handlers. A button and a menu item take the focus before they act, and
   /// do not act when the field that loses it holds on to it, nor when the form is not in front.
   void OnClick(QAbstractButton* button, Handler handler);
@@ -133,6 +137,7 @@ class Form : public QMainWindow {
   WindowRegistry& windows_;
   Role role_;
   HintLine& hint_;
+  int contextLines_ = 0;
   QPointer<QWidget> focused_;
   bool focusHeld_ = false;
   std::map<const QWidget*, Handler> gotFocus_;

@@ -4,8 +4,10 @@
 
 #include "platform/MessageBox.h"
 #include "platform/WorkArea.h"
+#include "statement/StatementContext.h"
 #include "support/ProgramTitle.h"
 #include "ui_DailyBalancesWindow.h"
+#include "windows/frame/ContextLine.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -40,6 +42,7 @@ void KeepReadable(QLineEdit* field) {
 DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& registry)
     : Form(registry, Role::Secondary), ui_(std::make_unique<Ui::DailyBalancesWindow>()) {
   ui_->setupUi(this);
+  account_ = AddContextLine("lblContext");
   setWindowFlag(Qt::Dialog);
   NameArrayElements();
   BuildRows();
@@ -102,6 +105,7 @@ bool DailyBalancesWindow::Form_QueryUnload() {
 void DailyBalancesWindow::Edit(DailyBalances& daily, std::optional<ComputedDays>& computed) {
   daily_ = &daily;
   computed_ = &computed;
+  account_->ShowContext(ContextOf(session().header, session().statement));
   ui_->lblMinADB->setText(QString::fromStdString(MinimumAdbText(daily.account)));
   ui_->lblMinBal->setText(QString::fromStdString(MinimumDailyBalanceText(daily.account)));
   GoToPage(1);

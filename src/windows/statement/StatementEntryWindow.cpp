@@ -3,9 +3,11 @@
 #include <QtWidgets>
 
 #include "platform/Pictures.h"
+#include "statement/StatementContext.h"
 #include "support/Clock.h"
 #include "ui_StatementEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
+#include "windows/frame/ContextLine.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -19,6 +21,7 @@ constexpr int kHelpContext = 9;
 StatementEntryWindow::StatementEntryWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::StatementEntryWindow>()) {
   ui_->setupUi(this);
+  account_ = AddContextLine("lblContext");
   binding_ = std::make_unique<FieldBinding<StatementEntry>>(
       *this, Entry(), [this] { ShowGroups(); }, [this] { FollowChanges(session().statement); });
   BindFields();
@@ -89,6 +92,8 @@ void StatementEntryWindow::ShowGroups() {
   const std::string note = InterestNoteText(entry);
   ui_->lblIntNote->setText(QString::fromStdString(note));
   ui_->lblIntNote->setVisible(!note.empty());
+  account_->ShowContext(ContextOf(session().header, session().statement));
+  ShowNextStep(NextStepOfEntry(entry));
 }
 
 void StatementEntryWindow::txtDRFactor_Change() {

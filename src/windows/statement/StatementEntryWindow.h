@@ -12,6 +12,8 @@ class StatementEntryWindow;
 
 namespace corvane {
 
+class ContextLine;
+
 /// The statement period: dates or days, rate, minimums, balances and the interest that the
 /// statement shows.
 class StatementEntryWindow : public Form {
@@ -39,6 +41,7 @@ class StatementEntryWindow : public Form {
   bool Passes(const CheckOutcome& outcome);
 
   std::unique_ptr<Ui::StatementEntryWindow> ui_;
+  ContextLine* account_;
   std::unique_ptr<FieldBinding<StatementEntry>> binding_;
 };
 

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <span>
+
+#include <QDockWidget>
+
+#include "disclosure/EntryOverview.h"
+
+class QLabel;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace corvane {
+
+/// The column at the right of the entry window: which entry the window stands at, and the entries
+/// that were made. A click on one before it, or Enter, asks to go back to it. Its width comes from
+/// the font, so that nothing moves when it fills.
+class EntryList : public QDockWidget {
+  Q_OBJECT
+
+ public:
+  explicit EntryList(QWidget* parent);
+
+  /// The entries in their order, while the window stands at the current one.
+  void ShowEntries(const std::string& heading, std::span<const EntryLine> entries, int current);
+
+ signals:
+  /// The person wants to go back to an entry before the current one.
+  void GoBackTo(int entry);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void AddEntry(const EntryLine& entry, int current);
+  void SetWidthByFont();
+  void Choose(const QTreeWidgetItem* item);
+
+  QLabel* heading_;
+  QTreeWidget* list_;
+};
+
+}  // namespace corvane
