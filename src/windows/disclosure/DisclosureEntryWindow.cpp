@@ -16,6 +16,7 @@
 #include "windows/frame/CalendarPopup.h"
 #include "windows/frame/ContextLine.h"
 #include "windows/frame/EntryList.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -37,7 +38,6 @@ DisclosureEntryWindow::DisclosureEntryWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::DisclosureEntryWindow>()) {
   ui_->setupUi(this);
   NameArrayElements();
-  BuildPlace();
   binding_ = std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] {
     EnableCalendars();
     ShowTier();
@@ -52,17 +52,23 @@ void DisclosureEntryWindow::BuildPlace() {
   account_ = AddContextLine("lblContext");
   tier_ = AddContextLine("lblTierContext");
   entries_ = new EntryList(this);
-  addDockWidget(Qt::RightDockWidgetArea, entries_);
+  entries_->PlaceIn(*this);
   // Going back fills the list anew, which must not happen while it handles the click.
   connect(
       entries_, &EntryList::GoBackTo, this, [this](int entry) { GoBackTo(entry); },
       Qt::QueuedConnection);
 }
 
+void DisclosureEntryWindow::resizeEvent(QResizeEvent* event) {
+  Form::resizeEvent(event);
+  entries_->PlaceIn(*this);
+}
+
 void DisclosureEntryWindow::BindFields() {
   for (const auto& name : DisclosureEntry::Fields()) {
     SelectTextOnFocus(findChild<QLineEdit*>(name.control));
   }
+  FitToDigits(*ui_->txtDailyRateFactor, FieldLength::kFactor);
   BindNumeric(ui_->txtBal, {.repairMinus = true, .decimals = 2, .kind = "bal"});
   BindNumeric(ui_->txtIntRateA, {.repairMinus = true, .decimals = 4, .kind = "int"});
   BindNumeric(ui_->txtDiscAPY, {.repairMinus = true, .decimals = 2, .kind = "apy"});
@@ -101,6 +107,7 @@ void DisclosureEntryWindow::BindButtons() {
 }
 
 void DisclosureEntryWindow::Form_Load() {
+  BuildPlace();
   cmdSetProperties_Click();
 }
 

@@ -27,6 +27,9 @@ class DisclosureEntryWindow : public Form {
   void Form_Load() override;
   void Form_Activate() override;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void BuildPlace();
   void BindFields();
@@ -51,9 +54,9 @@ class DisclosureEntryWindow : public Form {
   void InternalError();
 
   std::unique_ptr<Ui::DisclosureEntryWindow> ui_;
-  ContextLine* account_;
-  ContextLine* tier_;
-  EntryList* entries_;
+  ContextLine* account_ = nullptr;
+  ContextLine* tier_ = nullptr;
+  EntryList* entries_ = nullptr;
   DisclosureEntry entry_;  ///< kept by the check when it is completed or left
   std::unique_ptr<FieldBinding<DisclosureEntry>> binding_;
   std::vector<QWidget*> termDates_;  ///< the two dates and their calendars

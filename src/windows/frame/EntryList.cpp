@@ -6,12 +6,37 @@ namespace corvane {
 
 namespace {
 
-/// The headings, and the widest text that a column has to show whole.
-constexpr std::pair<const char*, const char*> kColumns[] = {{"No.", "10 high"},
-                                                            {"Rate %", "10.0000"},
-                                                            {"Balance", "1,000,000.00"},
-                                                            {"Disclosed", "10.00"},
-                                                            {"Computed", "10.00"}};
+/// A column: its heading and the widest text that it has to show whole, in two lines both, which
+/// keeps the fields' part of the window wide.
+struct Column {
+  const char* heading;
+  const char* widest;
+};
+constexpr Column kColumns[] = {{"Entry\nRate %", "10.0000"},
+                               {"Balance\nAPY/computed", "1,000,000.00"}};
+
+/// How many lines of the list show below the fields.
+constexpr int kLinesBelow = 6;
+
+QString Line(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+QString Percent(const std::string& number) {
+  return number.empty() ? QString() : Line(number) + " %";
+}
+
+QString Apys(const EntryLine& entry) {
+  return Line(entry.disclosed) + (entry.computed.empty() ? "" : " / " + Line(entry.computed));
+}
+
+/// What a screen reader says of an entry, and its tool tip.
+QString Sentence(const EntryLine& entry) {
+  QString text = "Entry " + Line(entry.name) + ": rate " + Percent(entry.rate) + ", balance " +
+                 Line(entry.balance) + ", disclosed APY " + Percent(entry.disclosed);
+  if (!entry.computed.empty()) text += ", computed APY " + Percent(entry.computed);
+  return text;
+}
 
 }  // namespace
 
@@ -31,27 +56,36 @@ EntryList::EntryList(QWidget* parent)
   list_->setTabKeyNavigation(false);
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   QStringList headings;
-  for (const auto& [heading, widest] : kColumns) headings << heading;
+  for (const Column& column : kColumns) headings << column.heading;
   list_->setHeaderLabels(headings);
   list_->installEventFilter(this);
   connect(list_, &QTreeWidget::itemClicked, this, [this](auto* item) { Choose(item); });
   setWidget(list_);
-  SetWidthByFont();
+  SetColumnsByFont();
 }
 
-void EntryList::SetWidthByFont() {
+void EntryList::SetColumnsByFont() {
   const QFontMetrics metrics = list_->fontMetrics();
-  const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, list_) + 3);
-  int width = 2 * list_->frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  list_->header()->setSectionsMovable(false);
-  list_->header()->setSectionResizeMode(QHeaderView::Fixed);
-  list_->header()->setStretchLastSection(true);
-  for (int column = 0; const auto& [heading, widest] : kColumns) {
-    const int text = qMax(metrics.horizontalAdvance(widest), metrics.horizontalAdvance(heading));
-    list_->header()->resizeSection(column++, text + 2 * margin);
-    width += text + 2 * margin;
+  const int margin = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, list_);
+  widthBeside_ = 2 * list_->frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  for (int place = 0; const Column& column : kColumns) {
+    const int text =
+        qMax(metrics.size(0, column.heading).width(), metrics.horizontalAdvance(column.widest));
+    list_->header()->resizeSection(place++, text + margin);
+    widthBeside_ += text + margin;
   }
-  list_->setFixedWidth(width);
+  list_->header()->setSectionResizeMode(QHeaderView::Fixed);
+}
+
+void EntryList::PlaceIn(QMainWindow& window) {
+  const bool beside = window.centralWidget()->sizeHint().width() + widthBeside_ <= window.width();
+  const auto area = beside ? Qt::RightDockWidgetArea : Qt::BottomDockWidgetArea;
+  if (window.dockWidgetArea(this) == area) return;
+  const int heightBelow = kLinesBelow * list_->fontMetrics().lineSpacing();
+  list_->setMinimumSize(beside ? QSize(widthBeside_, 0) : QSize(0, heightBelow));
+  list_->setMaximumSize(beside ? QSize(widthBeside_, QWIDGETSIZE_MAX)
+                               : QSize(QWIDGETSIZE_MAX, heightBelow));
+  window.addDockWidget(area, this);
 }
 
 void EntryList::ShowEntries(const std::string& heading, std::span<const EntryLine> entries,
@@ -63,13 +97,11 @@ void EntryList::ShowEntries(const std::string& heading, std::span<const EntryLin
 
 void EntryList::AddEntry(const EntryLine& entry, int current) {
   auto* item = new QTreeWidgetItem(list_);
-  int column = 0;
-  for (const std::string* text :
-       {&entry.name, &entry.rate, &entry.balance, &entry.disclosed, &entry.computed}) {
-    item->setText(column, QString::fromStdString(*text));
-    if (column > 0) item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
-    ++column;
-  }
+  item->setText(0, Line(entry.name + '\n' + entry.rate));
+  item->setText(1, Line(entry.balance) + '\n' + Apys(entry));
+  item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+  for (int column : {0, 1}) item->setToolTip(column, Sentence(entry));
+  item->setData(0, Qt::AccessibleTextRole, Sentence(entry));
   item->setData(0, Qt::UserRole, entry.number);
   // An entry behind the current one is reached by Next, which checks what is in between.
   item->setDisabled(entry.number > current);

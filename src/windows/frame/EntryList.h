@@ -7,19 +7,23 @@
 #include "disclosure/EntryOverview.h"
 
 class QLabel;
+class QMainWindow;
 class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace corvane {
 
-/// The column at the right of the entry window: which entry the window stands at, and the entries
-/// that were made. A click on one before it, or Enter, asks to go back to it. Its width comes from
-/// the font, so that nothing moves when it fills.
+/// The column beside the fields of the entry window: which entry the window stands at, and the
+/// entries that were made. A click on one before it, or Enter, asks to go back to it. Its size
+/// comes from the font, so that nothing moves when it fills.
 class EntryList : public QDockWidget {
   Q_OBJECT
 
  public:
   explicit EntryList(QWidget* parent);
+
+  /// At the right of the fields, or below them where the window is too narrow for both.
+  void PlaceIn(QMainWindow& window);
 
   /// The entries in their order, while the window stands at the current one.
   void ShowEntries(const std::string& heading, std::span<const EntryLine> entries, int current);
@@ -33,11 +37,12 @@ class EntryList : public QDockWidget {
 
  private:
   void AddEntry(const EntryLine& entry, int current);
-  void SetWidthByFont();
+  void SetColumnsByFont();
   void Choose(const QTreeWidgetItem* item);
 
   QLabel* heading_;
   QTreeWidget* list_;
+  int widthBeside_ = 0;
 };
 
 }  // namespace corvane

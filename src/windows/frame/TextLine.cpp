@@ -17,6 +17,10 @@ void TextLine::SetLine(const QString& text) {
   setToolTip(line.toHtmlEscaped());
 }
 
+QSize TextLine::minimumSizeHint() const {
+  return {0, QLabel::minimumSizeHint().height()};
+}
+
 void TextLine::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());

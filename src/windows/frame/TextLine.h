@@ -14,6 +14,8 @@ class TextLine : public QLabel {
 
   void SetLine(const QString& text);
 
+  QSize minimumSizeHint() const override;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 };

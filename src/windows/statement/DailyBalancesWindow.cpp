@@ -42,7 +42,6 @@ void KeepReadable(QLineEdit* field) {
 DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& registry)
     : Form(registry, Role::Secondary), ui_(std::make_unique<Ui::DailyBalancesWindow>()) {
   ui_->setupUi(this);
-  account_ = AddContextLine("lblContext");
   setWindowFlag(Qt::Dialog);
   NameArrayElements();
   BuildRows();
@@ -93,6 +92,7 @@ void DailyBalancesWindow::BindRow(std::size_t index) {
 }
 
 void DailyBalancesWindow::Form_Load() {
+  account_ = AddContextLine("lblContext");
   CenterInWorkArea(*this);
 }
 

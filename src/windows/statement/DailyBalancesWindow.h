@@ -59,7 +59,7 @@ class DailyBalancesWindow : public Form {
   DaySpan ShownDays() const { return DaysOnPage(page_, daily_->days.size()); }
 
   std::unique_ptr<Ui::DailyBalancesWindow> ui_;
-  ContextLine* account_;
+  ContextLine* account_ = nullptr;
   std::array<Row, kDaysPerPage> rows_{};
   DailyBalances* daily_ = nullptr;
   std::optional<ComputedDays>* computed_ = nullptr;

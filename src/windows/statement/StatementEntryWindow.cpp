@@ -8,6 +8,7 @@
 #include "ui_StatementEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
 #include "windows/frame/ContextLine.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -21,7 +22,6 @@ constexpr int kHelpContext = 9;
 StatementEntryWindow::StatementEntryWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::StatementEntryWindow>()) {
   ui_->setupUi(this);
-  account_ = AddContextLine("lblContext");
   binding_ = std::make_unique<FieldBinding<StatementEntry>>(
       *this, Entry(), [this] { ShowGroups(); }, [this] { FollowChanges(session().statement); });
   BindFields();
@@ -43,6 +43,7 @@ void StatementEntryWindow::BindFields() {
     BindNumeric(field, {.repairMinus = true, .decimals = 2, .kind = "bal"});
     RewriteOnLeaving(field);
   }
+  FitToDigits(*ui_->txtDRFactor, FieldLength::kFactor);
   BindNumeric(ui_->txtIntRate, {.repairMinus = true, .decimals = 4, .kind = "int"});
   BindNumeric(ui_->txtDClApy, {.repairMinus = true, .decimals = 2, .kind = "apy"});
   BindNumeric(ui_->txtIntAmt, {.repairMinus = true, .decimals = 2, .kind = "userint"});
@@ -69,6 +70,7 @@ void StatementEntryWindow::BindButtons() {
 }
 
 void StatementEntryWindow::Form_Load() {
+  account_ = AddContextLine("lblContext");
   const StatementSetup& setup = session().statement.setup;
   ui_->lblTopic->setText("  APY Earned For Periodic Statement  ");
   ui_->lblAccountInfo->setText(QString::fromStdString(AccountInfoText(setup)));

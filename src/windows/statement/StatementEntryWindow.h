@@ -41,7 +41,7 @@ class StatementEntryWindow : public Form {
   bool Passes(const CheckOutcome& outcome);
 
   std::unique_ptr<Ui::StatementEntryWindow> ui_;
-  ContextLine* account_;
+  ContextLine* account_ = nullptr;
   std::unique_ptr<FieldBinding<StatementEntry>> binding_;
 };
 
