@@ -11,9 +11,9 @@ cmake --build --preset dev --target corvane_help_pictures
 for scale in 1 2; do
   for points in 10 14; do
     for colours in light dark; do
-      to=$folder/${scale}00-percent-$points-points-$colours
-      mkdir -p "$to"
-      QT_SCALE_FACTOR=$scale build/dev/corvane_help_pictures "$to" windows $points $colours
+      mkdir -p "$folder/${scale}00-percent-$points-points-$colours"
+      echo "QT_SCALE_FACTOR=$scale build/dev/corvane_help_pictures" \
+        "'$folder/${scale}00-percent-$points-points-$colours' windows $points $colours"
     done
   done
-done
+done | xargs -P "$(nproc)" -d '\n' -n 1 sh -c

@@ -90,21 +90,30 @@ Steps Tiers(const QString& option, const std::vector<const char*>& pictures, int
   return steps;
 }
 
+/// A balance and a rate for each of so many days, page by page.
+QString EveryDay(int count) {
+  constexpr int kDaysOfPage = 33;
+  QString keys;
+  for (int day = 0; day < count; ++day) {
+    if (day > 0 && day % kDaysOfPage == 0) keys += "&n";
+    keys += "999999999999.99\t10.1234\t";
+  }
+  return keys;
+}
+
 /// The days of a statement's period, its results and its detail.
 Steps Days(int count, const char* days, const char* period, const char* results,
            const char* detail) {
-  return {
-      {"[cmdStatement] [txtName]First Example Bank[optStepRate] [cmdNext] "},
-      {"[optADB] [txtDateStart]04012025[txtMinADB]0[txtMinDBal]0[txtDClApy]6.58[txtIntRate]10.1234"
-       "[txtLedgerdays]" +
-       QString::number(count) + "\t[cmdComputeLADB] "},
-      {QString("999999999999.99\t10.1234\t").repeated(qMin(count, 33)), days},
-      {"&c\r"},
-      {"[txtLedgerdays]\t", period},
-      {"&c", results},
-      {"&s", detail},
-      {"&b"},
-      {"&m"}};
+  return {{"[cmdStatement] [txtName]First Example Bank[optStepRate] [cmdNext] "},
+          {"[txtDateStart]04012025[txtMinADB]0[txtMinDBal]0[txtDClApy]6.58[txtLedgerdays]" +
+           QString::number(count) + "\t[cmdComputeLADB] "},
+          {EveryDay(count), days},
+          {"&c"},
+          {"", period},
+          {"&c", results},
+          {"&s", detail},
+          {"&b"},
+          {"&m"}};
 }
 
 /// Every window, in every state that lays it out in another way.
@@ -149,7 +158,7 @@ Steps EveryWindow() {
   };
   for (const Steps& more :
        {Tiers("optTierA", {"tiers-none", "tiers-a", "entry-tier-a", nullptr, "results-tier-a"}, 10),
-        Tiers("optTierB", {nullptr, "tiers-b", "entry-tier-b", "entry-tier-b-2", nullptr}, 2),
+        Tiers("optTierB", {nullptr, "tiers-b", "entry-tier-b", "entry-tier-b-2", nullptr}, 1),
         Days(1, "days-1", "statement-1", nullptr, nullptr),
         Days(31, "days-31", "statement-31", "statement-results", "interest-report"),
         Days(96, "days-96", nullptr, nullptr, nullptr)}) {

@@ -168,6 +168,8 @@ class FormLayout : public WindowTest {
     EXPECT_TRUE(form.width() <= kScreen.width() - kFrame.width() &&
                 form.height() <= kScreen.height() - kFrame.height())
         << "needs " << form.width() << " x " << form.height();
+    EXPECT_LE(form.minimumSizeHint().height(), kScreen.height() / 2 - kFrame.height())
+        << "at 200 percent its buttons leave the screen";
     if (!mayScroll_) ExpectReadingOrder(form);
     ExpectNamedControls(form);
     ExpectInSight(form, mayScroll_);
@@ -213,6 +215,10 @@ TEST_F(FormLayout, MainWindowsStandWhereAPersonPutTheOneBeforeAndOthersAboveThem
     Click("cmdOK");
   });
   Menu("mnuHelpAbout");
+  InFront<DisclosureSetupWindow>().showMaximized();
+  Click("cmdNext");
+  EXPECT_TRUE(InFront<DisclosureEntryWindow>().isMaximized());
+  EXPECT_EQ(Front()->normalGeometry(), place);
 }
 
 }  // namespace

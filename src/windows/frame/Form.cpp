@@ -14,12 +14,17 @@ namespace corvane {
 
 namespace {
 
-/// Disabled fields show figures that have to be read: their text is fainter, not all but gone, on
-/// the window's own colour, so that a dark palette too tells them from those that take an entry.
+/// Disabled fields show figures that have to be read, and disabled options what is chosen: their
+/// text is fainter, not all but gone. The window's own colour behind it tells such a field from one
+/// that takes an entry, in a dark palette too.
 QPalette ReadableWhenDisabled(QPalette palette) {
-  QColor text = palette.color(QPalette::Active, QPalette::Text);
-  text.setAlphaF(0.65F);
-  palette.setColor(QPalette::Disabled, QPalette::Text, text);
+  constexpr std::pair<QPalette::ColorRole, float> kFainter[] = {
+      {QPalette::Text, 0.65F}, {QPalette::WindowText, 0.45F}, {QPalette::ButtonText, 0.45F}};
+  for (const auto& [role, opacity] : kFainter) {
+    QColor text = palette.color(QPalette::Active, role);
+    text.setAlphaF(opacity);
+    palette.setColor(QPalette::Disabled, role, text);
+  }
   palette.setColor(QPalette::Disabled, QPalette::Base,
                    palette.color(QPalette::Active, QPalette::Window));
   return palette;

@@ -16,6 +16,9 @@ class ScrolledBody : public QScrollArea {
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
     setWidget(new QWidget(this));
+    // A frame that is drawn behind the body shows through.
+    viewport()->setAutoFillBackground(false);
+    widget()->setAutoFillBackground(false);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
       if (widget()->isAncestorOf(now)) ensureWidgetVisible(now);
     });
@@ -39,7 +42,7 @@ void MoveItem(QLayoutItem* item, QBoxLayout& to) {
   }
 }
 
-/// The buttons of a window, which are the last row of its layout; null where it has none.
+/// The buttons of a window, which are the last row of its layout; null where other parts are.
 QBoxLayout* ButtonsOf(const QBoxLayout& page) {
   return qobject_cast<QBoxLayout*>(page.itemAt(page.count() - 1)->layout());
 }
@@ -121,7 +124,10 @@ void AlignColumns(QWidget& window) {
   }
   for (auto* grid : grids) {
     for (int column = 0; column < kSharedColumns; ++column) {
-      if (AreLabels(ColumnOf(*grid, column))) grid->setColumnMinimumWidth(column, shared[column]);
+      const QWidgetList controls = ColumnOf(*grid, column);
+      // A grid leaves out the space beside a column that holds nothing.
+      const int space = controls.empty() ? grid->horizontalSpacing() : 0;
+      if (AreLabels(controls)) grid->setColumnMinimumWidth(column, shared[column] + space);
     }
   }
 }
@@ -149,16 +155,16 @@ bool ShowsLongText(const QMainWindow& window) {
 void LetBodyScroll(QMainWindow& window) {
   QBoxLayout* page = PageOf(window);
   QBoxLayout* buttons = ButtonsOf(*page);
-  if (!buttons) return;
   const int margins = page->contentsMargins().left() + page->contentsMargins().right();
-  BreakRow(*page, *buttons, WorkArea(window).width() - margins);
+  if (buttons) BreakRow(*page, *buttons, WorkArea(window).width() - margins);
   if (ShowsLongText(window)) return;
   auto* body = new ScrolledBody(window.centralWidget());
   page->insertWidget(0, body);
   auto* inside = new QVBoxLayout(body->widget());
   inside->setContentsMargins({});
   inside->setSpacing(page->spacing());
-  while (page->itemAt(1) != buttons) MoveItem(page->takeAt(1), *inside);
+  const int left = buttons ? page->indexOf(buttons) : page->count();
+  for (int item = 1; item < left; ++item) MoveItem(page->takeAt(1), *inside);
 }
 
 void LayOutPage(QWidget& window) {
@@ -171,7 +177,7 @@ void LayOutPage(QWidget& window) {
 }
 
 QSize PageSize(const QWidget& window) {
-  constexpr QSize kCharacters(124, 44);
+  constexpr QSize kCharacters(140, 44);
   const QFontMetrics metrics(window.font());
   return {kCharacters.width() * metrics.averageCharWidth(),
           kCharacters.height() * metrics.lineSpacing()};
