@@ -53,10 +53,7 @@ void DisclosureEntryWindow::BuildPlace() {
   tier_ = AddContextLine("lblTierContext");
   entries_ = new EntryList(this);
   entries_->PlaceIn(*this);
-  // Going back fills the list anew, which must not happen while it handles the click.
-  connect(
-      entries_, &EntryList::GoBackTo, this, [this](int entry) { GoBackTo(entry); },
-      Qt::QueuedConnection);
+  connect(entries_, &EntryList::GoBackTo, this, [this](int entry) { GoBackTo(entry); });
 }
 
 void DisclosureEntryWindow::resizeEvent(QResizeEvent* event) {

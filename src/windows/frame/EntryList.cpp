@@ -15,7 +15,7 @@ struct Column {
 constexpr Column kColumns[] = {{"Entry\nRate %", "10.0000"},
                                {"Balance\nAPY/computed", "1,000,000.00"}};
 
-/// How many lines of the list show below the fields.
+/// How many lines of the list show below the fields, where the screen has room for them.
 constexpr int kLinesBelow = 6;
 
 QString Line(const std::string& text) {
@@ -36,6 +36,10 @@ QString Sentence(const EntryLine& entry) {
                  Line(entry.balance) + ", disclosed APY " + Percent(entry.disclosed);
   if (!entry.computed.empty()) text += ", computed APY " + Percent(entry.computed);
   return text;
+}
+
+int EntryOf(const QTreeWidgetItem& item) {
+  return item.data(0, Qt::UserRole).toInt();
 }
 
 }  // namespace
@@ -59,7 +63,10 @@ EntryList::EntryList(QWidget* parent)
   for (const Column& column : kColumns) headings << column.heading;
   list_->setHeaderLabels(headings);
   list_->installEventFilter(this);
-  connect(list_, &QTreeWidget::itemClicked, this, [this](auto* item) { Choose(item); });
+  // Going back fills the list anew, which must not happen while it handles the click.
+  connect(list_, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) {
+    QTimer::singleShot(0, this, [this, entry = EntryOf(*item)] { emit GoBackTo(entry); });
+  });
   setWidget(list_);
   SetColumnsByFont();
 }
@@ -82,7 +89,7 @@ void EntryList::PlaceIn(QMainWindow& window) {
   const auto area = beside ? Qt::RightDockWidgetArea : Qt::BottomDockWidgetArea;
   if (window.dockWidgetArea(this) == area) return;
   const int heightBelow = kLinesBelow * list_->fontMetrics().lineSpacing();
-  list_->setMinimumSize(beside ? QSize(widthBeside_, 0) : QSize(0, heightBelow));
+  list_->setMinimumSize(beside ? QSize(widthBeside_, 0) : QSize(0, heightBelow / 3));
   list_->setMaximumSize(beside ? QSize(widthBeside_, QWIDGETSIZE_MAX)
                                : QSize(QWIDGETSIZE_MAX, heightBelow));
   window.addDockWidget(area, this);
@@ -108,15 +115,11 @@ void EntryList::AddEntry(const EntryLine& entry, int current) {
   if (entry.number == current) list_->setCurrentItem(item);
 }
 
-void EntryList::Choose(const QTreeWidgetItem* item) {
-  if (item && !item->isDisabled()) emit GoBackTo(item->data(0, Qt::UserRole).toInt());
-}
-
 bool EntryList::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-      Choose(list_->currentItem());
+      if (const auto* item = list_->currentItem()) emit GoBackTo(EntryOf(*item));
       return true;
     }
   }

@@ -9,7 +9,6 @@
 class QLabel;
 class QMainWindow;
 class QTreeWidget;
-class QTreeWidgetItem;
 
 namespace corvane {
 
@@ -29,7 +28,7 @@ class EntryList : public QDockWidget {
   void ShowEntries(const std::string& heading, std::span<const EntryLine> entries, int current);
 
  signals:
-  /// The person wants to go back to an entry before the current one.
+  /// The person chose an entry, to go back to it when it stands before the current one.
   void GoBackTo(int entry);
 
  protected:
@@ -38,7 +37,6 @@ class EntryList : public QDockWidget {
  private:
   void AddEntry(const EntryLine& entry, int current);
   void SetColumnsByFont();
-  void Choose(const QTreeWidgetItem* item);
 
   QLabel* heading_;
   QTreeWidget* list_;

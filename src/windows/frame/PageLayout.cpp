@@ -155,6 +155,9 @@ bool ShowsLongText(const QMainWindow& window) {
 void LetBodyScroll(QMainWindow& window) {
   QBoxLayout* page = PageOf(window);
   QBoxLayout* buttons = ButtonsOf(*page);
+  // Large letters need the room, all the more beside a scroll bar.
+  const QMargins drawn = page->contentsMargins();
+  page->setContentsMargins(drawn.left() / 2, drawn.top(), drawn.right() / 2, drawn.bottom());
   const int margins = page->contentsMargins().left() + page->contentsMargins().right();
   if (buttons) BreakRow(*page, *buttons, WorkArea(window).width() - margins);
   if (ShowsLongText(window)) return;
