@@ -180,7 +180,7 @@ void LayOutPage(QWidget& window) {
 }
 
 QSize PageSize(const QWidget& window) {
-  constexpr QSize kCharacters(140, 44);
+  constexpr QSize kCharacters(140, 47);
   const QFontMetrics metrics(window.font());
   return {kCharacters.width() * metrics.averageCharWidth(),
           kCharacters.height() * metrics.lineSpacing()};
