@@ -1,5 +1,7 @@
 #include "disclosure/DisclosureCalculation.h"
 
+#include <span>
+
 #include "account/DailyRateFactor.h"
 #include "disclosure/EntryChecks.h"
 #include "disclosure/EntrySequence.h"
@@ -10,6 +12,10 @@ namespace corvane {
 namespace {
 
 using Result = Outcome<DisclosureResult>;
+
+std::span<const DisclosureEntry> CompletedEntries(const DisclosureCheck& check) {
+  return std::span(check.entries).first(static_cast<std::size_t>(check.completed));
+}
 
 Deposit DepositOf(const DisclosureEntry& entry) {
   return {.balance = entry.txtBal.Value(),
@@ -33,11 +39,11 @@ ResultRow RowOf(const DisclosureEntry& entry, int number, const Yield& yield) {
           .verdict = CheckApy(disclosed, yield.apy)};
 }
 
-/// A regular account, or all tiers by method A.
+/// A regular account, or the completed tiers by method A.
 Result ComputeEach(const DisclosureCheck& check) {
   DisclosureResult result;
   int number = 0;
-  for (const DisclosureEntry& entry : check.entries) {
+  for (const DisclosureEntry& entry : CompletedEntries(check)) {
     const Deposit deposit = DepositOf(entry);
     const auto yield = RegularYield(TermsOf(check.setup), deposit);
     if (const auto failure = FailureOf(yield)) return *failure;
@@ -65,8 +71,8 @@ ResultRow PeriodRow(const DisclosureCheck& check, int number, double interest) {
 /// The completed periods of a stepped account, anew.
 Result ComputePeriods(const DisclosureCheck& check) {
   std::vector<Deposit> periods;
-  for (int k = 0; k < check.completed; ++k) {
-    periods.push_back(DepositOf(check.entries.at(static_cast<std::size_t>(k))));
+  for (const DisclosureEntry& entry : CompletedEntries(check)) {
+    periods.push_back(DepositOf(entry));
   }
   const auto computed = SteppedYieldOf(TermsOf(check.setup), periods.front().balance, periods);
   if (const auto failure = FailureOf(computed)) return *failure;
@@ -82,13 +88,13 @@ Result ComputePeriods(const DisclosureCheck& check) {
   return result;
 }
 
-/// Every tier end by method B. Term, factor and withdrawals were typed with the first entry and
-/// stand in all.
+/// The completed tier ends by method B. Term, factor and withdrawals were typed with the first
+/// entry and stand in all.
 Result ComputeTierEnds(const DisclosureCheck& check) {
   const std::vector<Tier> tiers = TiersOf(check.tiers);
   DisclosureResult result;
   int number = 0;
-  for (const DisclosureEntry& entry : check.entries) {
+  for (const DisclosureEntry& entry : CompletedEntries(check)) {
     const Deposit deposit = DepositOf(entry);
     const auto yield = TieredYield(TermsOf(check.setup), tiers, deposit);
     if (const auto failure = FailureOf(yield)) return *failure;
@@ -126,6 +132,13 @@ AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry
   }
   check.result = std::get<DisclosureResult>(computed);
   return {std::nullopt, true};
+}
+
+std::optional<DisclosureResult> ResultSoFar(const DisclosureCheck& check) {
+  if (check.completed == 0) return std::nullopt;
+  Result computed = Compute(check);
+  if (FailureOf(computed)) return std::nullopt;
+  return std::get<DisclosureResult>(std::move(computed));
 }
 
 }  // namespace corvane

@@ -19,4 +19,8 @@ struct AttemptOutcome {
 /// two-digit month, the counted term). After a refusal nothing more is completed than before.
 AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry);
 
+/// What the completed entries come to, before the account is complete; nothing while none is, or
+/// when a formula has no result for them.
+std::optional<DisclosureResult> ResultSoFar(const DisclosureCheck& check);
+
 }  // namespace corvane

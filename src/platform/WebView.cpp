@@ -200,17 +200,17 @@ void WebView::LoadAgain() {
   emit Shown(false);
 }
 
-bool WebView::Print() {
+PrintOutcome WebView::Print() {
   auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  if (browser_ && !Accepts(*printer, window())) return true;
+  if (browser_ && !Accepts(*printer, window())) return PrintOutcome::Cancelled;
   const auto printing = browser_;
-  if (!printing) return false;
+  if (!printing) return PrintOutcome::Failed;
   PrintingBox box(window());
   QTimer::singleShot(0, &box, [&] { printing->Print(*printer, box); });
   const bool printed = box.exec() == QDialog::Accepted;
   // The browser paints in a thread of its own, which may go on after a print that was given up.
   if (!printed) static_cast<void>(printer.release());
-  return printed;
+  return printed ? PrintOutcome::Printed : PrintOutcome::Failed;
 }
 
 void PrepareWebView() {

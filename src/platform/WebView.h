@@ -8,6 +8,8 @@ class QLabel;
 
 namespace corvane {
 
+enum class PrintOutcome { Printed, Cancelled, Failed };
+
 /// Shows one local report file and nothing else: scripts and plug-ins are off, nothing is stored,
 /// links do nothing, and no other file or remote address is loaded. The browser behind it is made
 /// for each file that is shown.
@@ -29,8 +31,8 @@ class WebView : public QWidget {
   void ShowNotice(const QString& text);
 
   /// Prints the page after the system's print dialog, and keeps all input away until it is printed.
-  /// False when no page is shown and when the print fails.
-  bool Print();
+  /// It fails also when no page is shown.
+  PrintOutcome Print();
 
  signals:
   /// The page stands on the screen, or could not be loaded.

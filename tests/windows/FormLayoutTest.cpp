@@ -37,11 +37,17 @@ QRect PlaceIn(const QWidget& form, const QWidget& control) {
   return {control.mapTo(&form, QPoint()), control.size()};
 }
 
+/// The column beside the form's body is read last.
+bool StandsBeside(const QWidget* control) {
+  return qobject_cast<const QDockWidget*>(control->parent());
+}
+
 void ExpectReadingOrder(QWidget& form) {
   std::vector<QWidget*> order = TabOrder(form);
   EXPECT_FALSE(order.empty());
   const auto isHigher = [&form](const QWidget* one, const QWidget* other) {
-    return PlaceIn(form, *one).top() < PlaceIn(form, *other).top();
+    return std::pair(StandsBeside(one), PlaceIn(form, *one).top()) <
+           std::pair(StandsBeside(other), PlaceIn(form, *other).top());
   };
   std::rotate(order.begin(), std::min_element(order.begin(), order.end(), isHigher), order.end());
   for (std::size_t i = 1; i < order.size(); ++i) {
@@ -49,7 +55,8 @@ void ExpectReadingOrder(QWidget& form) {
     const bool sameRow = now.top() <= before.center().y() && before.top() <= now.center().y();
     // A group may be read column by column.
     const bool nextColumn =
-        now.left() > before.right() && order[i]->parent() == order[i - 1]->parent();
+        now.left() > before.right() &&
+        (StandsBeside(order[i]) || order[i]->parent() == order[i - 1]->parent());
     EXPECT_TRUE(nextColumn || (sameRow ? now.left() > before.left() : now.top() > before.top()))
         << NameOf(order[i - 1]) << " is followed by " << NameOf(order[i]);
   }

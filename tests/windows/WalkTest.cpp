@@ -153,6 +153,7 @@ class Walk : public WindowTest {
          QGuiApplication::clipboard()->setText(text.replace("\\n", "\n").replace("\\t", "\t"));
        })},
       {"menu", Each([this](auto& item, auto&) { Menu(item); })},
+      {"entry", Each([this](auto& number, auto&) { ClickEntry(number.toInt()); })},
       {"close", Each([this](auto& name, auto&) {
          EXPECT_EQ(Front()->objectName(), name) << "is not in front";
          CloseByFrame();
@@ -163,6 +164,9 @@ class Walk : public WindowTest {
       {"box", [this](const Words& words) { Announce(words, MessageIcon::Exclamation); }},
       {"notice", [this](const Words& words) { Announce(words, MessageIcon::None); }},
       {"shows", Each([this](auto& name, auto& text) { Shows(name, text); })},
+      {"hint",
+       [this](const Words& words) { EXPECT_EQ(Caption("lblHint"), words.value(0).toStdString()); }},
+      {"entries", [this](const Words& words) { Entries(words); }},
       {"focus", Each([this](auto& name, auto&) { EXPECT_EQ(Focus(), name.toStdString()); })},
       {"shown", State("visible", true)},
       {"hidden", State("visible", false)},
@@ -293,6 +297,25 @@ class Walk : public WindowTest {
       EXPECT_FALSE(column.empty()) << "no such column";
       EXPECT_EQ(column.join("; ").toStdString(), cells.toStdString());
     })(words.mid(1));
+  }
+
+  void ClickEntry(int number) {
+    auto* list = Get<QTreeWidget>("lstEntries");
+    const QRect place = list->visualItemRect(list->topLevelItem(number - 1));
+    ASSERT_TRUE(list->isVisible() && place.isValid()) << "no such entry";
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place.center());
+    QCoreApplication::processEvents();
+  }
+
+  /// The list of the entries so far, each in one line.
+  void Entries(const Words& expected) {
+    Words shown;
+    const auto* list = Get<QTreeWidget>("lstEntries");
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+      const auto* item = list->topLevelItem(i);
+      shown << QString(item->text(0) + '\n' + item->text(1)).replace('\n', ' ');
+    }
+    EXPECT_EQ(shown.join("; ").toStdString(), expected.join("; ").toStdString());
   }
 
   /// In the orderly way.

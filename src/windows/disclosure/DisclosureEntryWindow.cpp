@@ -4,15 +4,20 @@
 
 #include "disclosure/DisclosureCalculation.h"
 #include "disclosure/EntryChecks.h"
+#include "disclosure/EntryContext.h"
 #include "disclosure/EntryLayout.h"
+#include "disclosure/EntryOverview.h"
 #include "disclosure/EntrySequence.h"
 #include "disclosure/EntrySlips.h"
 #include "disclosure/EntryTerm.h"
+#include "disclosure/NextStep.h"
 #include "platform/Pictures.h"
 #include "support/Clock.h"
 #include "ui_DisclosureEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
+#include "windows/frame/ContextLine.h"
 #include "windows/frame/DateCount.h"
+#include "windows/frame/EntryList.h"
 #include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -39,12 +44,26 @@ DisclosureEntryWindow::DisclosureEntryWindow(WindowRegistry& registry)
   binding_ = std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] {
     EnableCalendars();
     dateCount_->Show(TermDatesText(session().disclosure.setup, entry_));
+    ShowTier();
   });
   BindFields();
   BindButtons();
 }
 
 DisclosureEntryWindow::~DisclosureEntryWindow() = default;
+
+void DisclosureEntryWindow::BuildPlace() {
+  account_ = AddContextLine("lblContext");
+  tier_ = AddContextLine("lblTierContext");
+  entries_ = new EntryList(this);
+  entries_->PlaceIn(*this);
+  connect(entries_, &EntryList::GoBackTo, this, [this](int entry) { GoBackTo(entry); });
+}
+
+void DisclosureEntryWindow::resizeEvent(QResizeEvent* event) {
+  Form::resizeEvent(event);
+  entries_->PlaceIn(*this);
+}
 
 void DisclosureEntryWindow::BindFields() {
   for (const auto& name : DisclosureEntry::Fields()) {
@@ -96,6 +115,7 @@ void DisclosureEntryWindow::BindButtons() {
 }
 
 void DisclosureEntryWindow::Form_Load() {
+  BuildPlace();
   cmdSetProperties_Click();
 }
 
@@ -116,6 +136,7 @@ void DisclosureEntryWindow::cmdSetProperties_Click() {
   const bool calculates = !check.setup.IsTiered() && IsLastEntry(check);
   ui_->cmdCalculateResult->setVisible(calculates);
   ui_->cmdNext->setVisible(!calculates);
+  ShowPlace();
 }
 
 void DisclosureEntryWindow::ShowCaptions() {
@@ -153,6 +174,25 @@ void DisclosureEntryWindow::EnableCalendars() {
   const bool enabled = TermDatesEnabled(session().disclosure, entry_.txtTerm);
   entry_.tStartDate.enabled = entry_.tEndDate.enabled = enabled;
   for (QWidget* control : termDates_) control->setEnabled(enabled);
+}
+
+void DisclosureEntryWindow::ShowPlace() {
+  const DisclosureCheck& check = session().disclosure;
+  account_->ShowContext(ContextOf(session().header, check.setup));
+  tier_->setVisible(check.setup.IsTiered());
+  entries_->setVisible(HasOverview(check.setup));
+  entries_->ShowEntries(EntryHeading(check), EntriesSoFar(check), CurrentEntry(check));
+  ShowNextStep(NextStepOfEntry(check));
+}
+
+void DisclosureEntryWindow::ShowTier() {
+  const auto [text, warns] = TierContextOf(session().disclosure, entry_.txtBal);
+  tier_->ShowContext(text, warns);
+}
+
+void DisclosureEntryWindow::GoBackTo(int entry) {
+  const int times = CurrentEntry(session().disclosure) - entry;
+  for (int i = 0; i < times; ++i) ui_->cmdBack->click();
 }
 
 void DisclosureEntryWindow::txtTerm_LostFocus(const QString& next) {

@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "disclosure/NextStep.h"
 #include "reports/DisclosureReport.h"
 #include "support/Clock.h"
 #include "ui_DisclosureResultsWindow.h"
@@ -33,6 +34,7 @@ DisclosureResultsWindow::~DisclosureResultsWindow() = default;
 
 void DisclosureResultsWindow::Form_Activate() {
   FocusField(ui_->cmdBack);
+  ShowNextStep(NextStepOfResults(session().disclosure));
   BuildReport();
   FocusReport();
 }

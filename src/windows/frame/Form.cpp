@@ -5,7 +5,9 @@
 #include "account/NumericEntry.h"
 #include "platform/MessageBox.h"
 #include "support/NumberText.h"
+#include "windows/frame/ContextLine.h"
 #include "windows/frame/DateKeys.h"
+#include "windows/frame/HintLine.h"
 #include "windows/frame/PageLayout.h"
 #include "windows/frame/PasteFilter.h"
 #include "windows/frame/WindowRegistry.h"
@@ -54,8 +56,10 @@ int LengthOf(const NumericRule& rule) {
 
 }  // namespace
 
-Form::Form(WindowRegistry& windows, Role role) : windows_(windows), role_(role) {
+Form::Form(WindowRegistry& windows, Role role)
+    : windows_(windows), role_(role), hint_(*new HintLine(this)) {
   setPalette(ReadableWhenDisabled(palette()));
+  statusBar()->addWidget(&hint_, 1);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
     const bool isControl = now && now->window() == this && !qobject_cast<QMenuBar*>(now);
     if (isControl) MoveFocus(now);
@@ -71,6 +75,7 @@ Routes& Form::routes() {
 }
 
 void Form::Load() {
+  hint_.SetNextStep(NextStepOf(objectName()));
   LetBodyScroll(*this);
   for (auto* button : findChildren<QAbstractButton*>()) button->installEventFilter(this);
   for (auto* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
@@ -108,14 +113,24 @@ void Form::Tell(const Refusal& refusal) {
   const bool warns = refusal.icon == MessageIcon::Exclamation;
   ShowMessage(this, QString::fromStdString(refusal.text), QString::fromStdString(refusal.title),
               warns ? QMessageBox::Warning : QMessageBox::NoIcon);
+  ShowHint(refusal.text);
   // An empty name would find a control without one.
   if (refusal.field.empty()) return;
   if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
 }
 
 void Form::ShowHint(const std::string& text) {
-  const QWidget* at = focused_ ? focused_.data() : this;
-  QToolTip::showText(at->mapToGlobal(at->rect().bottomLeft()), QString::fromStdString(text));
+  hint_.Tell(QString::fromStdString(text));
+}
+
+void Form::ShowNextStep(const std::string& text) {
+  hint_.SetNextStep(QString::fromStdString(text));
+}
+
+ContextLine* Form::AddContextLine(const char* name) {
+  auto* line = new ContextLine(this, name);
+  qobject_cast<QBoxLayout*>(centralWidget()->layout())->insertWidget(contextLines_++, line);
+  return line;
 }
 
 void Form::FocusField(QWidget* field) {
@@ -276,6 +291,7 @@ void Form::RaiseLostFocus(QWidget* field, const QString& next) {
 
 bool Form::TakeFocus(QAbstractButton* button) {
   focusHeld_ = false;
+  hint_.Forget();
   button->setFocus();
   // A field that holds on to the focus has said why already.
   if (!focusHeld_) MoveFocus(button);
@@ -284,6 +300,7 @@ bool Form::TakeFocus(QAbstractButton* button) {
 
 bool Form::CommitFor(QAction* item) {
   focusHeld_ = false;
+  hint_.Forget();
   if (focused_) RaiseLostFocus(focused_, item->objectName());
   return !focusHeld_;
 }

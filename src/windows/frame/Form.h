@@ -24,6 +24,8 @@ class QRadioButton;
 
 namespace corvane {
 
+class ContextLine;
+class HintLine;
 class Routes;
 class WindowRegistry;
 struct Session;
@@ -68,7 +70,8 @@ class Form : public QMainWindow {
   /// Shows the refusal's message, then puts the focus on its field with the text selected.
   void Tell(const Refusal& refusal);
 
-  /// Says what happened or is doubtful without stopping the person.
+  /// Says in the line at the foot of the window what has happened. It stays until the next press of
+  /// a button or menu item; then what to do next shows again.
   void ShowHint(const std::string& text);
 
   /// Puts the focus on a field and selects its text.
@@ -85,6 +88,13 @@ class Form : public QMainWindow {
   Session& session();
   Routes& routes();
   WindowRegistry& windows() { return windows_; }
+
+  /// Says in the line at the foot of the window what to do next.
+  void ShowNextStep(const std::string& text);
+
+  /// Puts a line above the body of the window, below those that were put there before. To be called
+  /// once the form loads, when it is known which part of it scrolls.
+  ContextLine* AddContextLine(const char* name);
 
   /// The wiring of a form's handlers. A button and a menu item take the focus before they act, and
   /// do not act when the field that loses it holds on to it, nor when the form is not in front.
@@ -147,6 +157,8 @@ class Form : public QMainWindow {
   Role role_;
   EnterButton enter_{*this};
   std::optional<Captions> captions_;  ///< once the form has its controls
+  HintLine& hint_;
+  int contextLines_ = 0;
   QPointer<QWidget> focused_;
   bool focusHeld_ = false;
   std::map<const QWidget*, Handler> gotFocus_;

@@ -155,6 +155,9 @@ bool ShowsLongText(const QMainWindow& window) {
 void LetBodyScroll(QMainWindow& window) {
   QBoxLayout* page = PageOf(window);
   QBoxLayout* buttons = ButtonsOf(*page);
+  // Large letters need the room, all the more beside a scroll bar.
+  const QMargins drawn = page->contentsMargins();
+  page->setContentsMargins(drawn.left() / 2, drawn.top(), drawn.right() / 2, drawn.bottom());
   const int margins = page->contentsMargins().left() + page->contentsMargins().right();
   if (buttons) BreakRow(*page, *buttons, WorkArea(window).width() - margins);
   if (ShowsLongText(window)) return;
@@ -177,7 +180,7 @@ void LayOutPage(QWidget& window) {
 }
 
 QSize PageSize(const QWidget& window) {
-  constexpr QSize kCharacters(140, 44);
+  constexpr QSize kCharacters(140, 47);
   const QFontMetrics metrics(window.font());
   return {kCharacters.width() * metrics.averageCharWidth(),
           kCharacters.height() * metrics.lineSpacing()};

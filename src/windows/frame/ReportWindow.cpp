@@ -97,7 +97,10 @@ void ReportWindow::BuildReport() {
 }
 
 void ReportWindow::Print() {
-  if (text_ && !view_->Print()) {
+  if (!text_) return;
+  const PrintOutcome outcome = view_->Print();
+  if (outcome == PrintOutcome::Printed) ShowHint("Printed");
+  if (outcome == PrintOutcome::Failed) {
     Tell({"The report could not be printed.", "", "Error!", MessageIcon::None});
   }
 }
@@ -117,7 +120,10 @@ void ReportWindow::SaveCopy() {
   const std::filesystem::path asked = PathOf(chosen->toStdString());
   const std::filesystem::path path = SavePathFor(asked);
   if (!MayReplace(asked, path)) return;
-  if (const auto error = WriteWholeFile(path, SavedText(*text_))) Tell(ReportNotWritten(*error));
+  if (const auto error = WriteWholeFile(path, SavedText(*text_))) {
+    return Tell(ReportNotWritten(*error));
+  }
+  ShowHint("Saved as " + PathText(path));
 }
 
 }  // namespace corvane

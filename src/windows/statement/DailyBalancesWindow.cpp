@@ -4,8 +4,10 @@
 
 #include "platform/MessageBox.h"
 #include "platform/WorkArea.h"
+#include "statement/StatementContext.h"
 #include "support/ProgramTitle.h"
 #include "ui_DailyBalancesWindow.h"
+#include "windows/frame/ContextLine.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -91,6 +93,7 @@ void DailyBalancesWindow::BindRow(std::size_t index) {
 }
 
 void DailyBalancesWindow::Form_Load() {
+  account_ = AddContextLine("lblContext");
   CenterInWorkArea(*this);
 }
 
@@ -103,6 +106,7 @@ bool DailyBalancesWindow::Form_QueryUnload() {
 void DailyBalancesWindow::Edit(DailyBalances& daily, std::optional<ComputedDays>& computed) {
   daily_ = &daily;
   computed_ = &computed;
+  account_->ShowContext(ContextOf(session().header, session().statement));
   ui_->lblMinADB->setText(QString::fromStdString(MinimumAdbText(daily.account)));
   ui_->lblMinBal->setText(QString::fromStdString(MinimumDailyBalanceText(daily.account)));
   GoToPage(1);

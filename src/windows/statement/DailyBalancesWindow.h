@@ -14,6 +14,8 @@ class DailyBalancesWindow;
 
 namespace corvane {
 
+class ContextLine;
+
 /// The daily balances: one balance (and for stepped accounts one rate) for every day of the
 /// statement period, 33 days to a page.
 class DailyBalancesWindow : public Form {
@@ -57,6 +59,7 @@ class DailyBalancesWindow : public Form {
   DaySpan ShownDays() const { return DaysOnPage(page_, daily_->days.size()); }
 
   std::unique_ptr<Ui::DailyBalancesWindow> ui_;
+  ContextLine* account_ = nullptr;
   std::array<Row, kDaysPerPage> rows_{};
   DailyBalances* daily_ = nullptr;
   std::optional<ComputedDays>* computed_ = nullptr;

@@ -4,9 +4,11 @@
 
 #include "account/SlipNotice.h"
 #include "platform/Pictures.h"
+#include "statement/StatementContext.h"
 #include "support/Clock.h"
 #include "ui_StatementEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
+#include "windows/frame/ContextLine.h"
 #include "windows/frame/DateCount.h"
 #include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
@@ -74,6 +76,7 @@ void StatementEntryWindow::BindButtons() {
 }
 
 void StatementEntryWindow::Form_Load() {
+  account_ = AddContextLine("lblContext");
   const StatementSetup& setup = session().statement.setup;
   ui_->lblTopic->setText("  APY Earned For Periodic Statement  ");
   ui_->lblAccountInfo->setText(QString::fromStdString(AccountInfoText(setup)));
@@ -98,6 +101,8 @@ void StatementEntryWindow::ShowGroups() {
   const std::string note = InterestNoteText(entry);
   ui_->lblIntNote->setText(QString::fromStdString(note));
   ui_->lblIntNote->setVisible(!note.empty());
+  account_->ShowContext(ContextOf(session().header, session().statement));
+  ShowNextStep(NextStepOfEntry(entry));
 }
 
 void StatementEntryWindow::txtDRFactor_Change() {

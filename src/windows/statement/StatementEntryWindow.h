@@ -13,6 +13,7 @@ class StatementEntryWindow;
 namespace corvane {
 
 class DateCount;
+class ContextLine;
 
 /// The statement period: dates or days, rate, minimums, balances and the interest that the
 /// statement shows.
@@ -41,6 +42,7 @@ class StatementEntryWindow : public Form {
   bool Passes(const CheckOutcome& outcome);
 
   std::unique_ptr<Ui::StatementEntryWindow> ui_;
+  ContextLine* account_ = nullptr;
   std::unique_ptr<FieldBinding<StatementEntry>> binding_;
   DateCount* dateCount_ = nullptr;
 };

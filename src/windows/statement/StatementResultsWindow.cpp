@@ -3,6 +3,7 @@
 #include <QtWidgets>
 
 #include "reports/StatementReport.h"
+#include "statement/StatementContext.h"
 #include "support/Clock.h"
 #include "ui_StatementResultsWindow.h"
 #include "windows/frame/WindowRegistry.h"
@@ -34,6 +35,7 @@ StatementResultsWindow::~StatementResultsWindow() = default;
 
 void StatementResultsWindow::Form_Load() {
   ui_->cmdDetail->setEnabled(DetailOf(session().statement) != nullptr);
+  ShowNextStep(NextStepOfResults(session().statement));
 }
 
 void StatementResultsWindow::Form_Activate() {
