@@ -3,37 +3,21 @@
 #include <QtWidgets>
 
 #include "platform/MessageBox.h"
+#include "platform/OpenDialog.h"
 #include "platform/WorkArea.h"
+#include "statement/DayFilling.h"
+#include "statement/DayTable.h"
 #include "support/ProgramTitle.h"
+#include "support/WholeFile.h"
 #include "ui_DailyBalancesWindow.h"
 #include "windows/frame/WindowRegistry.h"
+#include "windows/statement/DayGrid.h"
 
 namespace corvane {
 
 namespace {
 
 constexpr int kHelpContext = 10;
-constexpr int kRowsPerColumn = 11;
-constexpr int kGridColumns = 4;  ///< label, balance, rate and the gap to the next three
-constexpr int kFieldWidth = 100;
-constexpr int kRateWidth = 76;
-
-QLineEdit* MakeField(QWidget* parent, const char* name, int index, const char* tip, int width) {
-  auto* field = new QLineEdit(parent);
-  field->setObjectName(QString("%1(%2)").arg(name).arg(index));
-  field->setToolTip(tip);
-  field->setMinimumWidth(width);
-  field->setAlignment(Qt::AlignRight);
-  return field;
-}
-
-/// A rate that is worked out is there to be read, though it cannot be typed.
-void KeepReadable(QLineEdit* field) {
-  QPalette palette = field->palette();
-  palette.setBrush(QPalette::Disabled, QPalette::Text,
-                   palette.brush(QPalette::Active, QPalette::Text));
-  field->setPalette(palette);
-}
 
 }  // namespace
 
@@ -42,51 +26,58 @@ DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& registry)
   ui_->setupUi(this);
   setWindowFlag(Qt::Dialog);
   NameArrayElements();
-  BuildRows();
-  OnClick(ui_->cmdPrevious, [this] { LeaveForPage(page_ - 1); });
-  OnClick(ui_->cmdNext, [this] { LeaveForPage(page_ + 1); });
-  OnClick(ui_->cmdContinue, [this] { cmdContinue_Click(); });
-  OnClick(ui_->cmdClear, [this] { cmdClear_Click(); });
-  OnClick(ui_->cmdPrint, [this] { cmdPrint_Click(); });
+  grid_ = std::make_unique<DayGrid>(*ui_->fraDays, *ui_->days);
+  BindFields();
+  BindCommands();
+  OrderTabs();
   BindCommonMenus(kHelpContext);
 }
 
 DailyBalancesWindow::~DailyBalancesWindow() = default;
 
-void DailyBalancesWindow::BuildRows() {
-  QWidget* last = ui_->cmdPrint;
-  for (std::size_t index = 0; index < rows_.size(); ++index) {
-    rows_[index] = MakeRow(static_cast<int>(index));
-    BindRow(index);
-    QWidget::setTabOrder(last, rows_[index].balance);
-    QWidget::setTabOrder(rows_[index].balance, rows_[index].rate);
-    last = rows_[index].rate;
+void DailyBalancesWindow::BindFields() {
+  for (std::size_t row = 0; row < grid_->Rows().size(); ++row) {
+    const auto& [label, balance, rate] = grid_->Rows()[row];
+    BindNumeric(balance, {.repairMinus = true, .decimals = 2, .kind = "bal"});
+    BindNumeric(rate, {.repairMinus = true, .decimals = 4, .kind = "int"});
+    SelectTextOnFocus(balance);
+    SelectTextOnFocus(rate);
+    OnLostFocus(balance, [this, row](const QString&) { txtDayBal_LostFocus(row); });
+    OnLostFocus(rate, [this, row](const QString&) { txtRate_LostFocus(row); });
   }
 }
 
-DailyBalancesWindow::Row DailyBalancesWindow::MakeRow(int index) {
-  const Row row{new QLabel(ui_->fraDays),
-                MakeField(ui_->fraDays, "txtDayBal", index, "Daily Balance", kFieldWidth),
-                MakeField(ui_->fraDays, "txtRate", index, "Daily Interest Rate", kRateWidth)};
-  KeepReadable(row.rate);
-  row.label->setObjectName(QString("lblDay(%1)").arg(index));
-  row.label->setBuddy(row.balance);
-  const int line = 1 + index % kRowsPerColumn;
-  const int column = kGridColumns * (index / kRowsPerColumn);
-  ui_->days->addWidget(row.label, line, column);
-  ui_->days->addWidget(row.balance, line, column + 1);
-  ui_->days->addWidget(row.rate, line, column + 2);
-  return row;
+void DailyBalancesWindow::BindCommands() {
+  OnClick(ui_->cmdPrevious, [this] { LeaveForPage(grid_->Page() - 1); });
+  OnClick(ui_->cmdNext, [this] { LeaveForPage(grid_->Page() + 1); });
+  OnClick(ui_->cmdContinue, [this] { cmdContinue_Click(); });
+  OnClick(ui_->cmdClear, [this] {
+    Change(ClearDays(*daily_));
+    GoToPage(1);
+  });
+  OnClick(ui_->cmdPrint, [this] { cmdPrint_Click(); });
+  OnMenu(ui_->mnuUndo, [this] { mnuUndo_Click(); });
+  OnMenu(ui_->mnuPaste, [this] { Paste(); });
+  OnMenu(ui_->mnuCopyBefore, [this] { Change(CopyDayBefore(*daily_, place_.day)); });
+  OnMenu(ui_->mnuCopyToEnd, [this] { Change(CopyToEnd(*daily_, place_.day)); });
+  OnMenu(ui_->mnuLoad, [this] { mnuLoad_Click(); });
 }
 
-void DailyBalancesWindow::BindRow(std::size_t index) {
-  const Row& row = rows_[index];
-  BindNumeric(row.balance, {.repairMinus = true, .decimals = 2, .kind = "bal"});
-  BindNumeric(row.rate, {.repairMinus = true, .decimals = 4, .kind = "int"});
-  SelectTextOnFocus(row.balance);
-  SelectTextOnFocus(row.rate);
-  OnLostFocus(row.balance, [this, index](const QString&) { txtDayBal_LostFocus(index); });
-  OnLostFocus(row.rate, [this, index](const QString&) { txtRate_LostFocus(index); });
+/// The days, then the buttons; whoever has typed a page goes on with Next.
+void DailyBalancesWindow::OrderTabs() {
+  QWidget* last = ui_->cmdPrint;
+  const auto append = [&last](QWidget* next) {
+    setTabOrder(last, next);
+    last = next;
+  };
+  for (const auto& [label, balance, rate] : grid_->Rows()) {
+    append(balance);
+    append(rate);
+  }
+  for (QWidget* button :
+       {ui_->cmdNext, ui_->cmdPrevious, ui_->cmdContinue, ui_->cmdClear, ui_->cmdPrint}) {
+    append(button);
+  }
 }
 
 void DailyBalancesWindow::Form_Load() {
@@ -96,15 +87,99 @@ void DailyBalancesWindow::Form_Load() {
 bool DailyBalancesWindow::Form_QueryUnload() {
   return AskYesNo(
       this, "Any data you have entered will be lost. Are you sure you want to close this window?",
-      kProgramTitle);
+      kProgramTitle, QMessageBox::No);
 }
 
 void DailyBalancesWindow::Edit(DailyBalances& daily, std::optional<ComputedDays>& computed) {
   daily_ = &daily;
   computed_ = &computed;
+  setWindowTitle(windowTitle() + " - " + ColumnName(daily.column));
   ui_->lblMinADB->setText(QString::fromStdString(MinimumAdbText(daily.account)));
   ui_->lblMinBal->setText(QString::fromStdString(MinimumDailyBalanceText(daily.account)));
   GoToPage(1);
+}
+
+bool DailyBalancesWindow::eventFilter(QObject* watched, QEvent* event) {
+  const auto place = grid_->PlaceOf(watched);
+  if (place && event->type() == QEvent::FocusIn) place_ = *place;
+  const bool handled = place && event->type() == QEvent::KeyPress &&
+                       HandlesKey(*place, *static_cast<QKeyEvent*>(event));
+  return handled || Form::eventFilter(watched, event);
+}
+
+bool DailyBalancesWindow::HandlesKey(const DayPlace& place, const QKeyEvent& press) {
+  if (press.matches(QKeySequence::Paste)) return PasteTable(place);
+  if (press.matches(QKeySequence::Undo)) return !IsTyping(place) && (mnuUndo_Click(), true);
+  if (press.modifiers() & ~Qt::KeypadModifier) return false;
+  const bool goesUp = press.key() == Qt::Key_Up;
+  const bool goesOn =
+      press.key() == Qt::Key_Down || press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
+  if (goesUp && place.day > 0) GoTo({place.day - 1, place.isRate});
+  if (goesOn) GoTo({place.day + 1, place.isRate});
+  return goesUp || goesOn;
+}
+
+void DailyBalancesWindow::GoTo(const DayPlace& place) {
+  if (place.day >= daily_->days.size()) return FocusField(ui_->cmdContinue);
+  const int page = PageOf(place.day);
+  // As by the button, so that the page is left as its fields demand.
+  if (page > grid_->Page()) ui_->cmdNext->click();
+  if (page < grid_->Page()) ui_->cmdPrevious->click();
+  if (page == grid_->Page()) FocusField(grid_->FieldAt(place));
+}
+
+bool DailyBalancesWindow::PasteTable(const DayPlace& place) {
+  const std::string copied = QApplication::clipboard()->text().toStdString();
+  if (!IsTable(copied)) return false;
+  Change(PasteDays(*daily_, place, copied));
+  return true;
+}
+
+void DailyBalancesWindow::Paste() {
+  if (!PasteTable(place_)) grid_->FieldAt(place_)->paste();
+}
+
+/// What is being typed is the field's own to take back.
+bool DailyBalancesWindow::IsTyping(const DayPlace& place) const {
+  const auto& [balance, rate] = daily_->days.at(place.day);
+  const QLineEdit* field = grid_->FieldAt(place);
+  return field->isUndoAvailable() && TextOf(field) != (place.isRate ? rate : balance);
+}
+
+void DailyBalancesWindow::mnuUndo_Click() {
+  // A field that shows other days must not take them for what was typed.
+  FocusField(ui_->cmdContinue);
+  const DailyBalances before = *daily_;
+  *daily_ = TakeBack(history_, *daily_);
+  const auto changed = ChangedDays(before, *daily_);
+  const std::size_t day = changed ? changed->first : place_.day;
+  ShowPage(PageOf(day));
+  FocusField(grid_->FieldAt({day}));
+}
+
+void DailyBalancesWindow::mnuLoad_Click() {
+  const auto path = AskOpenPath(this, "Load Days from File", "Tables (*.csv *.txt);;All files (*)");
+  if (!path) return;
+  const auto text = ReadWholeFile(path->toStdString());
+  if (const auto* error = std::get_if<FileError>(&text)) {
+    return Tell({"The file cannot be read: " + error->reason, FieldAt(place_)});
+  }
+  Change(LoadDays(*daily_, std::get<std::string>(text)));
+}
+
+void DailyBalancesWindow::Change(const std::variant<DailyBalances, Refusal>& days) {
+  if (const auto* refusal = std::get_if<Refusal>(&days)) return Tell(*refusal);
+  Change(std::get<DailyBalances>(days));
+}
+
+void DailyBalancesWindow::Change(DailyBalances days) {
+  if (!ChangedDays(*daily_, days)) return;
+  const std::string told = ChangeText(*daily_, days);
+  Remember(history_, *daily_);
+  *daily_ = std::move(days);
+  ShowPage(grid_->Page());
+  grid_->FieldAt(place_)->selectAll();
+  statusBar()->showMessage(QString::fromStdString(told));
 }
 
 void DailyBalancesWindow::LeaveForPage(int page) {
@@ -112,54 +187,47 @@ void DailyBalancesWindow::LeaveForPage(int page) {
 }
 
 void DailyBalancesWindow::GoToPage(int page) {
-  page_ = page;
-  ShowPage();
-  FocusField(rows_.front().balance);
+  ShowPage(page);
+  FocusField(grid_->Rows().front().balance);
 }
 
-void DailyBalancesWindow::ShowPage() {
-  const std::size_t first = ShownDays().first;
-  for (std::size_t row = 0; row < rows_.size(); ++row) ShowRow(row, first + row);
-  ui_->cmdPrevious->setEnabled(page_ > 1);
-  ui_->cmdNext->setEnabled(HasNextPage(page_, daily_->days.size()));
+void DailyBalancesWindow::ShowPage(int page) {
+  grid_->ShowPage(*daily_, page);
+  ui_->cmdPrevious->setEnabled(page > 1);
+  ui_->cmdNext->setEnabled(HasNextPage(page, daily_->days.size()));
+  ShowSummary();
 }
 
-void DailyBalancesWindow::ShowRow(std::size_t row, std::size_t day) {
-  const Row& controls = rows_[row];
-  const bool exists = day < daily_->days.size();
-  const DayEntry texts = exists ? daily_->days[day] : DayEntry{};
-  const QString label = QString::fromStdString(DayLabel(*daily_, day));
-  controls.label->setText(label);
-  controls.label->setVisible(exists);
-  controls.balance->setVisible(exists);
-  controls.balance->setAccessibleName("Daily balance " + label);
-  SetText(controls.balance, texts.balance);
-  controls.rate->setVisible(exists);
-  controls.rate->setEnabled(daily_->TakesRates());
-  controls.rate->setAccessibleName("Rate " + label);
-  SetText(controls.rate, texts.rate);
+void DailyBalancesWindow::ShowSummary() {
+  ui_->lblSummary->setText(QString::fromStdString(SummaryText(*daily_)));
 }
 
 bool DailyBalancesWindow::TakePage() {
-  const DaySpan span = ShownDays();
-  for (std::size_t day = span.first; day < span.end; ++day) TakeRow(day - span.first, day);
-  const auto refusal = CheckPage(*daily_, page_);
+  const DaySpan span = grid_->Days(*daily_);
+  for (std::size_t day = span.first; day < span.end; ++day) {
+    TakeDay(*daily_, day, grid_->Typed(day));
+  }
+  const auto refusal = CheckPage(*daily_, grid_->Page());
   if (refusal) Tell(*refusal);
   return !refusal;
 }
 
-void DailyBalancesWindow::TakeRow(std::size_t row, std::size_t day) {
-  TakeDay(*daily_, day, {TextOf(rows_[row].balance), TextOf(rows_[row].rate)});
-}
-
 void DailyBalancesWindow::txtDayBal_LostFocus(std::size_t row) {
-  const std::size_t day = ShownDays().first + row;
-  EnterBalance(*daily_, day, TextOf(rows_[row].balance));
-  ShowRow(row, day);
+  const std::size_t day = grid_->Days(*daily_).first + row;
+  DailyBalances changed = *daily_;
+  EnterBalance(changed, day, TextOf(grid_->Rows()[row].balance));
+  if (ChangedDays(*daily_, changed)) Remember(history_, *daily_);
+  *daily_ = std::move(changed);
+  grid_->ShowDay(*daily_, day);
+  ShowSummary();
 }
 
 void DailyBalancesWindow::txtRate_LostFocus(std::size_t row) {
-  TakeRow(row, ShownDays().first + row);
+  const std::size_t day = grid_->Days(*daily_).first + row;
+  DailyBalances changed = *daily_;
+  TakeDay(changed, day, grid_->Typed(day));
+  if (ChangedDays(*daily_, changed)) Remember(history_, *daily_);
+  *daily_ = std::move(changed);
 }
 
 bool DailyBalancesWindow::AcceptsEmptyDays() {
@@ -173,22 +241,17 @@ void DailyBalancesWindow::cmdContinue_Click() {
   FillRates(*daily_);
   auto computed = ComputeAdb(*daily_);
   if (const auto* refusal = std::get_if<Refusal>(&computed)) {
-    ShowPage();
+    ShowPage(grid_->Page());
     return Tell(*refusal);
   }
   *computed_ = std::get<ComputedDays>(std::move(computed));
   windows().Close(*this);
 }
 
-void DailyBalancesWindow::cmdClear_Click() {
-  ClearDays(*daily_);
-  GoToPage(1);
-}
-
 void DailyBalancesWindow::cmdPrint_Click() {
   if (!TakePage()) return;
   FillRates(*daily_);
-  ShowPage();
+  ShowPage(grid_->Page());
   routes().ShowInterestReport(*daily_);
 }
 

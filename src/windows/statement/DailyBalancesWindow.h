@@ -1,18 +1,17 @@
 #pragma once
 
-#include <array>
 #include <memory>
 
-#include "statement/DailyBalances.h"
+#include "statement/DayHistory.h"
 #include "windows/frame/Form.h"
-
-class QLabel;
 
 namespace Ui {
 class DailyBalancesWindow;
 }
 
 namespace corvane {
+
+class DayGrid;
 
 /// The daily balances: one balance (and for stepped accounts one rate) for every day of the
 /// statement period, 33 days to a page.
@@ -30,37 +29,45 @@ class DailyBalancesWindow : public Form {
   /// Both have to live until the window has closed.
   void Edit(DailyBalances& daily, std::optional<ComputedDays>& computed);
 
- private:
-  struct Row {
-    QLabel* label;
-    QLineEdit* balance;
-    QLineEdit* rate;
-  };
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
-  void BuildRows();
-  Row MakeRow(int index);
-  void BindRow(std::size_t index);
+ private:
+  void BindFields();
+  void BindCommands();
+  void OrderTabs();
   void txtDayBal_LostFocus(std::size_t row);
   void txtRate_LostFocus(std::size_t row);
   void cmdContinue_Click();
-  void cmdClear_Click();
   void cmdPrint_Click();
+  void mnuUndo_Click();
+  void mnuLoad_Click();
+
+  bool HandlesKey(const DayPlace& place, const QKeyEvent& press);
+  bool IsTyping(const DayPlace& place) const;
+  bool PasteTable(const DayPlace& place);
+  void Paste();
+  /// Goes on to a day's field of the same column; behind the last day to Compute ADB.
+  void GoTo(const DayPlace& place);
 
   void LeaveForPage(int page);
   void GoToPage(int page);
-  void ShowPage();
-  void ShowRow(std::size_t row, std::size_t day);
+  void ShowPage(int page);
+  void ShowSummary();
   /// Takes what stands on the page, or tells why it cannot be left.
   bool TakePage();
   bool AcceptsEmptyDays();
-  void TakeRow(std::size_t row, std::size_t day);
-  DaySpan ShownDays() const { return DaysOnPage(page_, daily_->days.size()); }
+  /// Takes changed days over in a way that can be taken back.
+  void Change(DailyBalances days);
+  /// The same of many days, or tells why not.
+  void Change(const std::variant<DailyBalances, Refusal>& days);
 
   std::unique_ptr<Ui::DailyBalancesWindow> ui_;
-  std::array<Row, kDaysPerPage> rows_{};
+  std::unique_ptr<DayGrid> grid_;
   DailyBalances* daily_ = nullptr;
   std::optional<ComputedDays>* computed_ = nullptr;
-  int page_ = 1;
+  DayHistory history_;
+  DayPlace place_;  ///< of the field that has or last had the focus
 };
 
 }  // namespace corvane
