@@ -36,12 +36,12 @@ void PlaceBelow(QLayout* row, QWidget* widget) {
 DateCount::DateCount(QWidget* field) : QLabel(field->parentWidget()) {
   setObjectName("lblDateCount");
   setTextFormat(Qt::PlainText);
-  setText(" ");
+  setMinimumHeight(fontMetrics().height());
   PlaceBelow(RowOf(field), this);
 }
 
 void DateCount::Show(const std::string& text) {
-  setText(text.empty() ? " " : QString::fromStdString(text));
+  setText(QString::fromStdString(text));
 }
 
 }  // namespace corvane

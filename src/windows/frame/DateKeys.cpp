@@ -31,6 +31,7 @@ void DateKeys::Paste(const QString& text) {
 }
 
 void DateKeys::Complete() {
+  if (field_->hasSelectedText()) return;  // a digit will replace it
   const std::string text = TextOf(field_);
   const MaskedDate completed = AfterSeparator({text, field_->cursorPosition()});
   if (completed.text != text) Replace(field_, completed.text);

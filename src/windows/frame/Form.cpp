@@ -65,6 +65,7 @@ void Form::Tell(const Refusal& refusal) {
   const bool warns = refusal.icon == MessageIcon::Exclamation;
   ShowMessage(this, QString::fromStdString(refusal.text), QString::fromStdString(refusal.title),
               warns ? QMessageBox::Warning : QMessageBox::NoIcon);
+  if (refusal.field.empty()) return;  // which would find any part that has no name
   if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
 }
 

@@ -29,10 +29,11 @@ bool PasteFilter::TakeAt(const QPoint& place, const QString& text) {
 void PasteFilter::ShowMenu(const QContextMenuEvent& event) {
   QMenu* menu = field_->createStandardContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  // The item is known by its name; what it does is told to this filter in place of the field.
-  if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
-    paste->disconnect(field_);
-    connect(paste, &QAction::triggered, this, [this] { TakeClipboard(QClipboard::Clipboard); });
+  // Its items have no other names than what they read.
+  for (QAction* item : menu->actions()) {
+    if (!item->text().startsWith("&Paste")) continue;
+    item->disconnect(field_);
+    connect(item, &QAction::triggered, this, [this] { TakeClipboard(QClipboard::Clipboard); });
   }
   menu->popup(event.globalPos());
 }
