@@ -1,7 +1,6 @@
 #include "account/NumericEntry.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "support/NumberText.h"
 
@@ -33,19 +32,6 @@ std::u16string WithoutSelection(const TypedInto& field) {
   std::u16string rest = field.text;
   return rest.erase(static_cast<std::size_t>(field.selectionStart),
                     static_cast<std::size_t>(field.selectionLength));
-}
-
-/// The text with the blanks and the minus sign that other programs write as those of the keyboard.
-std::string WithPlainSigns(std::string_view text) {
-  constexpr std::pair<std::string_view, std::string_view> kSigns[] = {
-      {"\u00a0", " "}, {"\u2007", " "}, {"\u2009", " "}, {"\u202f", " "}, {"\u2212", "-"}};
-  std::string plain(text);
-  for (const auto& [sign, key] : kSigns) {
-    for (auto at = plain.find(sign); at != plain.npos; at = plain.find(sign, at)) {
-      plain.replace(at, sign.size(), key);
-    }
-  }
-  return plain;
 }
 
 /// Takes a sign off the front of the text, and the blanks behind it.
@@ -98,7 +84,7 @@ LimitedText LimitDecimals(const std::u16string& text, int maximum, const std::st
 
 std::optional<std::string> CleanPastedNumber(std::string_view pasted, const std::string& kind) {
   const char sign = KindOf(kind).sign;
-  const std::string plain = WithPlainSigns(pasted);
+  const std::string plain = WithKeyboardSigns(pasted);
   std::string_view text = Trim(plain);
   bool isNegative = TakeSign(text, '-');
   if (sign == '$' && TakeSign(text, '$') && !isNegative) isNegative = TakeSign(text, '-');

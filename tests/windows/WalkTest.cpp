@@ -144,7 +144,9 @@ class Walk : public WindowTest {
       {"type", Each([this](auto& name, auto& text) { Type(name, text); })},
       {"keys", Each([this](auto& text, auto&) { Keys(text); })},
       {"key", Each([this](auto& name, auto&) { Press(name); })},
-      {"copied", [](auto& words) { QApplication::clipboard()->setText(Unescaped(words[0])); }},
+      {"copy", Each([](auto& text, auto&) {
+         QGuiApplication::clipboard()->setText(Unescaped(text));
+       })},
       {"opened", [this](auto& words) { Opened(Unescaped(words[0])); }},
       {"menu", Each([this](auto& item, auto&) { Menu(item); })},
       {"close", Each([this](auto& name, auto&) {

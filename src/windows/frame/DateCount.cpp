@@ -1,0 +1,47 @@
+#include "windows/frame/DateCount.h"
+
+#include <QtWidgets>
+
+namespace corvane {
+
+namespace {
+
+QLayout* RowOf(QWidget* field) {
+  const auto layouts = field->window()->findChildren<QLayout*>();
+  const auto holds = [field](const QLayout* layout) { return layout->indexOf(field) >= 0; };
+  return *std::find_if(layouts.begin(), layouts.end(), holds);
+}
+
+/// Puts a widget below a row that stands alone in its frame, or in a column of rows.
+void PlaceBelow(QLayout* row, QWidget* widget) {
+  if (auto* grid = qobject_cast<QGridLayout*>(row)) {
+    return grid->addWidget(widget, grid->rowCount(), 0, 1, -1);
+  }
+  if (auto* column = qobject_cast<QBoxLayout*>(row->parent())) {
+    return column->insertWidget(column->indexOf(row) + 1, widget);
+  }
+  QWidget* frame = row->parentWidget();
+  auto* line = new QWidget(frame);
+  const QMargins margins = row->contentsMargins();
+  row->setContentsMargins({});
+  line->setLayout(row);
+  auto* column = new QVBoxLayout(frame);
+  column->setContentsMargins(margins);
+  column->addWidget(line);
+  column->addWidget(widget);
+}
+
+}  // namespace
+
+DateCount::DateCount(QWidget* field) : QLabel(field->parentWidget()) {
+  setObjectName("lblDateCount");
+  setTextFormat(Qt::PlainText);
+  setMinimumHeight(fontMetrics().height());
+  PlaceBelow(RowOf(field), this);
+}
+
+void DateCount::Show(const std::string& text) {
+  setText(QString::fromStdString(text));
+}
+
+}  // namespace corvane
