@@ -4,6 +4,7 @@
 #include "windows/disclosure/DisclosureSetupWindow.h"
 #include "windows/disclosure/TierTableWindow.h"
 #include "windows/frame/CalendarPopup.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/help/HelpWindow.h"
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
@@ -68,39 +69,145 @@ void ExpectNamedControls(QWidget& form) {
   }
 }
 
+/// Every control stands in the window whole, once the body is scrolled to it where it may scroll,
+/// which is up and down only; the buttons below it are never scrolled.
+void ExpectInSight(QWidget& form, bool mayScroll) {
+  for (auto* area : form.findChildren<QScrollArea*>()) {
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+    EXPECT_TRUE(mayScroll || area->verticalScrollBar()->maximum() == 0) << "is too high";
+  }
+  for (auto* control : form.findChildren<QWidget*>()) {
+    const bool counts = control->inherits("QAbstractButton") || control->inherits("QLabel") ||
+                        control->inherits("QLineEdit") || control->inherits("QComboBox");
+    if (!counts || !control->isVisible() || control->size().isEmpty()) continue;
+    for (auto* area : form.findChildren<QScrollArea*>()) {
+      if (area->widget()->isAncestorOf(control)) area->ensureWidgetVisible(control);
+    }
+    EXPECT_EQ(control->visibleRegion().boundingRect(), control->rect()) << NameOf(control);
+    const bool fixed = control->minimumWidth() == control->maximumWidth();
+    EXPECT_TRUE(fixed || control->width() >= control->minimumSizeHint().width()) << NameOf(control);
+  }
+}
+
+/// The longest text of a field is seen from its first character on.
+void ExpectRoomForDigits(QWidget& form) {
+  const std::map<QString, QStringList> longest = {
+      {"9999999999999.99",
+       {"txtBal", "txt_bne(9)", "TxtAbove(10)", "txtMinADB", "txtMinDBal", "txtIntAmt",
+        "txtADBLedgerBalance", "txtADBCollectedBalance"}},
+      {"100.0000", {"txtIntRateA", "txtDiscAPY", "txtIntRate", "txtInt(10)"}},
+      {"12-28-2026", {"tStartDate", "tEndDate", "txtDateStart", "txtDateEnd"}},
+      {"99999", {"txtTerm", "txtLedgerdays", "txtColDays", "txtBtwnReqIntWdrwl"}},
+      {"1/365", {"txtDailyRateFactor", "txtDRFactor"}}};
+  for (const auto& [text, names] : longest) {
+    for (auto* field : form.findChildren<QLineEdit*>()) {
+      if (!names.contains(field->objectName())) continue;
+      const QSignalBlocker quiet(field);
+      const QString before = field->text();
+      field->setText(text);
+      field->grab();  // scrolls to the end where the text does not fit
+      EXPECT_EQ(field->cursorPositionAt({field->height() / 4, field->height() / 2}), 0)
+          << NameOf(field);
+      field->setText(before);
+    }
+  }
+}
+
+/// A small screen, and most of what a desktop puts around a window.
+constexpr QSize kScreen(1024, 768);
+constexpr QSize kFrame(12, 44);
+
 class FormLayout : public WindowTest {
  protected:
+  void SetUp() override {
+    WindowTest::SetUp();
+    session.disclosure.setup.kind = AccountKind::Stepped;
+    session.disclosure.setup.withdrawal = Unit::Months;
+    daily_.account.kind = AccountKind::Stepped;
+    daily_.days.resize(kDaysPerPage);
+  }
+  void TearDown() override {
+    QApplication::setFont(font_);
+    WindowTest::TearDown();
+  }
+
+  void ExamineEveryWindow(int points) {
+    QFont font = font_;
+    font.setPointSize(points);
+    QApplication::setFont(font);
+    mayScroll_ = points > 10;
+    windows.Get<TierTableWindow>().findChild<QComboBox*>("cboTotalTiers")->setCurrentIndex(8);
+    Examine<DisclaimerWindow, MainMenu, AboutWindow, HelpWindow, CalendarPopup, TierTableWindow,
+            DisclosureSetupWindow, DisclosureEntryWindow, DisclosureResultsWindow,
+            StatementSetupWindow, StatementEntryWindow, StatementResultsWindow,
+            InterestReportWindow>();
+  }
+
+  void ExamineDays() {
+    windows.Get<DailyBalancesWindow>().Edit(daily_, computed_);
+    Examine<DailyBalancesWindow>();
+  }
+
+ private:
   template <class... AForm>
   void Examine() {
     (Examine(windows.Get<AForm>()), ...);
   }
 
- private:
-  static void Examine(Form& form) {
+  void Examine(Form& form) {
     SCOPED_TRACE(NameOf(&form));
+    const bool isPage = form.WindowRole() == Form::Role::Main || ShowsLongText(form);
+    form.resize((isPage ? PageSize(form) : form.sizeHint()).boundedTo(kScreen - kFrame));
     form.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&form));
-    ExpectReadingOrder(form);
+    EXPECT_TRUE(form.width() <= kScreen.width() - kFrame.width() &&
+                form.height() <= kScreen.height() - kFrame.height())
+        << "needs " << form.width() << " x " << form.height();
+    if (!mayScroll_) ExpectReadingOrder(form);
     ExpectNamedControls(form);
-    const QSize least = form.minimumSizeHint();
-    EXPECT_TRUE(least.width() <= 1000 && least.height() <= 720)
-        << "needs " << least.width() << " x " << least.height();
+    ExpectInSight(form, mayScroll_);
+    ExpectRoomForDigits(form);
   }
+
+  const QFont font_ = QApplication::font();
+  DailyBalances daily_;
+  std::optional<ComputedDays> computed_;
+  bool mayScroll_ = false;
 };
 
 TEST_F(FormLayout, EveryWindowCanBeReadAndUsedByKeyboardOnASmallScreen) {
-  session.disclosure.setup.kind = AccountKind::Stepped;
-  session.disclosure.setup.withdrawal = Unit::Months;
-  DailyBalances daily;
-  daily.account.kind = AccountKind::Stepped;
-  daily.days.resize(kDaysPerPage);
-  std::optional<ComputedDays> computed;
-  windows.Get<DailyBalancesWindow>().Edit(daily, computed);
-  windows.Get<TierTableWindow>().findChild<QComboBox*>("cboTotalTiers")->setCurrentIndex(8);
-  Examine<DisclaimerWindow, MainMenu, AboutWindow, HelpWindow, CalendarPopup, TierTableWindow,
-          DisclosureSetupWindow, DisclosureEntryWindow, DisclosureResultsWindow,
-          StatementSetupWindow, StatementEntryWindow, StatementResultsWindow, DailyBalancesWindow,
-          InterestReportWindow>();
+  ExamineEveryWindow(10);
+  ExamineDays();
+}
+
+TEST_F(FormLayout, EveryWindowCutsNothingInLargeLetters) {
+  ExamineEveryWindow(14);
+}
+
+TEST_F(FormLayout, MainWindowsStandWhereAPersonPutTheOneBeforeAndOthersAboveThem) {
+  session.disclosure = {};
+  windows.Show<MainMenu>();
+  auto& menu = InFront<MainMenu>();
+  menu.setGeometry(70, 60, 640, 480);
+  const QRect place = menu.geometry();
+  Click("cmdAcctAdv");
+  EXPECT_EQ(InFront<DisclosureSetupWindow>().geometry(), place);
+  Choose("optICDays");
+  Choose("optRegNoDisc");
+  Expect({"Please enter a valid compounding interval."});
+  Type("txtDailyCompounding", "-1");
+  Click("cmdNext");
+  Type("txtDailyCompounding", "1");
+  Click("cmdNext");
+  EXPECT_EQ(InFront<DisclosureEntryWindow>().geometry(), place);
+  Click("cmdBack");
+  EXPECT_EQ(InFront<DisclosureSetupWindow>().geometry(), place);
+  WhenShown<AboutWindow>([this, place] {
+    const QPoint apart = Front()->geometry().center() - place.center();
+    EXPECT_LE(apart.manhattanLength(), kFrame.height());
+    Click("cmdOK");
+  });
+  Menu("mnuHelpAbout");
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include "ui_DisclosureEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
 #include "windows/frame/DateCount.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -49,6 +50,7 @@ void DisclosureEntryWindow::BindFields() {
   for (const auto& name : DisclosureEntry::Fields()) {
     SelectTextOnFocus(findChild<QLineEdit*>(name.control));
   }
+  FitToDigits(*ui_->txtDailyRateFactor, FieldLength::kFactor);
   BindNumeric(ui_->txtBal, {.repairMinus = true, .decimals = 2, .kind = "bal"});
   BindNumeric(ui_->txtIntRateA, {.repairMinus = true, .decimals = 4, .kind = "int"});
   BindNumeric(ui_->txtDiscAPY, {.repairMinus = true, .decimals = 2, .kind = "apy"});

@@ -3,6 +3,7 @@
 #include <QtWidgets>
 
 #include "ui_TierTableWindow.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -17,6 +18,7 @@ TierTableWindow::TierTableWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::TierTableWindow>()) {
   ui_->setupUi(this);
   NameArrayElements();
+  FitToDigits(*ui_->txtTotalTiers, 2);
   for (int tier = 1; tier <= kMostTiers; ++tier) BindRow(tier);
   for (int tiers = kFewestTiers; tiers <= kMostTiers; ++tiers) {
     ui_->cboTotalTiers->addItem(QString::number(tiers));
@@ -43,6 +45,10 @@ void TierTableWindow::BindRow(int tier) {
   SelectTextOnFocus(rate);
   connect(rate, &QLineEdit::textEdited, this, [this] { rateEdited_ = true; });
   OnLostFocus(rate, [this, tier](const QString& next) { txtInt_LostFocus(tier, next); });
+  if (auto* above = Box("TxtAbove", tier)) {
+    FitToDigits(*above, FieldLength::kMoney);
+    above->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  }
   if (tier == kMostTiers) return;
   auto* bound = Box("txt_bne", tier);
   BindNumeric(bound, {.repairMinus = true, .decimals = 2, .kind = "bal"});

@@ -20,8 +20,9 @@ class CalendarPopup : public Form {
   explicit CalendarPopup(WindowRegistry& registry);
   ~CalendarPopup() override;
 
-  /// Shows the month of a date beside the mouse pointer and returns when the pop-up has closed: the
-  /// day that was picked, or nothing.
+  bool PlacesItself() const override { return true; }
+  /// Shows the month of a date beside the mouse pointer, or beside the button that was pressed by a
+  /// key, and returns when the pop-up has closed: the day that was picked, or nothing.
   std::optional<Date> PickDate(const Date& from, const QString& caption = {});
 
  protected:
@@ -29,12 +30,12 @@ class CalendarPopup : public Form {
 
  private:
   void PaintMonth();
+  void PaintChosen(QPainter& painter) const;
   void PaintHighlight(QPainter& painter) const;
   void MoveTo(const Date& date);
   void PressDay(const QPointF& place);
-  bool picMonth_KeyDown(int key);
+  bool picMonth_KeyDown(const QKeyEvent& press);
   bool LabelPressed(QObject* label);
-  void PlaceBesidePointer();
   QRectF CellRect(const Date& date) const;
   void Choose();
   void Close();

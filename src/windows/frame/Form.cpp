@@ -7,17 +7,21 @@
 #include "support/NumberText.h"
 #include "windows/frame/DateKeys.h"
 #include "windows/frame/PasteFilter.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
 
 namespace {
 
-/// Disabled fields show figures that have to be read: their text is fainter, not all but gone.
+/// Disabled fields show figures that have to be read: their text is fainter, not all but gone, on
+/// the window's own colour, so that a dark palette too tells them from those that take an entry.
 QPalette ReadableWhenDisabled(QPalette palette) {
   QColor text = palette.color(QPalette::Active, QPalette::Text);
   text.setAlphaF(0.65F);
   palette.setColor(QPalette::Disabled, QPalette::Text, text);
+  palette.setColor(QPalette::Disabled, QPalette::Base,
+                   palette.color(QPalette::Active, QPalette::Window));
   return palette;
 }
 
@@ -30,6 +34,13 @@ TypedInto PlaceIn(const QLineEdit* field) {
   return {field->text().toStdU16String(),
           selected ? field->selectionStart() : field->cursorPosition(),
           static_cast<int>(field->selectedText().size())};
+}
+
+/// The most characters of a field, by its rule.
+int LengthOf(const NumericRule& rule) {
+  if (rule.decimals < 0) return FieldLength::kCount;
+  const std::string_view kind = rule.kind;
+  return kind == "bal" || kind == "userint" ? FieldLength::kMoney : FieldLength::kRate;
 }
 
 }  // namespace
@@ -51,6 +62,7 @@ Routes& Form::routes() {
 }
 
 void Form::Load() {
+  LetBodyScroll(*this);
   for (auto* button : findChildren<QAbstractButton*>()) button->installEventFilter(this);
   for (auto* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
   if (auto* bar = findChild<QMenuBar*>()) {
@@ -59,13 +71,15 @@ void Form::Load() {
             [bar] { bar->setActiveAction(bar->actions().front()); });
   }
   Form_Load();
+  LayOutPage(*this);
 }
 
 void Form::Tell(const Refusal& refusal) {
   const bool warns = refusal.icon == MessageIcon::Exclamation;
   ShowMessage(this, QString::fromStdString(refusal.text), QString::fromStdString(refusal.title),
               warns ? QMessageBox::Warning : QMessageBox::NoIcon);
-  if (refusal.field.empty()) return;  // which would find any part that has no name
+  // An empty name would find a control without one.
+  if (refusal.field.empty()) return;
   if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
 }
 
@@ -106,6 +120,8 @@ void Form::OnLostFocus(QWidget* field, LostFocusHandler handler) {
 
 void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
   numeric_[field] = rule;
+  FitToDigits(*field, LengthOf(rule));
+  field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   // What an input method composes would not pass the key filter.
   field->setAttribute(Qt::WA_InputMethodEnabled, false);
   connect(field, &QLineEdit::textChanged, this,

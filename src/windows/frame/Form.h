@@ -55,7 +55,8 @@ class Form : public QMainWindow {
   virtual void Form_Load() {}
   /// Runs when the program's own navigation brings the form to the front.
   virtual void Form_Activate() {}
-  /// True for a form that centres itself; any other shows where the window before it stood.
+  /// True for a form that chooses its place. Any other main window shows where the one before it
+  /// stood, and a secondary one above the middle of the main window.
   virtual bool PlacesItself() const { return false; }
   /// Asked before the frame closes the form; false keeps it open.
   virtual bool Form_QueryUnload() { return true; }
@@ -92,7 +93,8 @@ class Form : public QMainWindow {
   /// "txt_bne(3)": the generated code turns their parentheses into underscores.
   void NameArrayElements();
 
-  /// Applies the key filter and, on every change, the minus repair and the decimal limit.
+  /// Applies the key filter and, on every change, the minus repair and the decimal limit; the field
+  /// becomes as wide as what it may hold, its text stands at the right.
   void BindNumeric(QLineEdit* field, const NumericRule& rule);
   /// Selects the first characters of the text, or all of it, when the field gets the focus.
   void SelectTextOnFocus(QLineEdit* field, int characters = INT_MAX);

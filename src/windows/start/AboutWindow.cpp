@@ -6,7 +6,6 @@
 #include "platform/Pictures.h"
 #include "platform/ProgramFolder.h"
 #include "platform/SystemInfo.h"
-#include "platform/WorkArea.h"
 #include "support/Paths.h"
 #include "support/ProgramTitle.h"
 #include "ui_AboutWindow.h"
@@ -17,6 +16,8 @@ namespace corvane {
 namespace {
 
 constexpr int kHelpContext = 6;
+/// Height and width of the picture, in lines of text.
+constexpr int kPictureLines = 4;
 constexpr const char* kSupportContact = "corvane-support@example.org";
 
 }  // namespace
@@ -32,10 +33,10 @@ AboutWindow::AboutWindow(WindowRegistry& registry)
 AboutWindow::~AboutWindow() = default;
 
 void AboutWindow::Form_Load() {
-  CenterInWorkArea(*this);
   const QString title = kProgramTitle;
   setWindowTitle("About " + title);
   ui_->picIcon->setPixmap(ProgramIcon().pixmap(128));
+  ui_->picIcon->setFixedSize(QSize(1, 1) * kPictureLines * fontMetrics().lineSpacing());
   ui_->lblTitle->setText(title);
   ui_->lblVersion->setText("Version " + QApplication::applicationVersion());
   const QString folder = QString::fromStdString(PathText(ProgramFolder()));

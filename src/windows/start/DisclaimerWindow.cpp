@@ -11,6 +11,8 @@ namespace corvane {
 namespace {
 
 constexpr int kHelpContext = 5;
+/// Height and width of the picture, in lines of text.
+constexpr int kPictureLines = 6;
 
 }  // namespace
 
@@ -27,6 +29,7 @@ DisclaimerWindow::~DisclaimerWindow() = default;
 
 void DisclaimerWindow::Form_Load() {
   ui_->Image1->setPixmap(ProgramPicture());
+  ui_->Image1->setFixedSize(QSize(1, 1) * kPictureLines * fontMetrics().lineSpacing());
   ui_->cmdOK->setFocus();
 }
 

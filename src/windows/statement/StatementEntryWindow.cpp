@@ -8,6 +8,7 @@
 #include "ui_StatementEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
 #include "windows/frame/DateCount.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -43,6 +44,7 @@ void StatementEntryWindow::BindFields() {
     BindNumeric(field, {.repairMinus = true, .decimals = 2, .kind = "bal"});
     RewriteOnLeaving(field);
   }
+  FitToDigits(*ui_->txtDRFactor, FieldLength::kFactor);
   BindNumeric(ui_->txtIntRate, {.repairMinus = true, .decimals = 4, .kind = "int"});
   BindNumeric(ui_->txtDClApy, {.repairMinus = true, .decimals = 2, .kind = "apy"});
   BindNumeric(ui_->txtIntAmt, {.repairMinus = true, .decimals = 2, .kind = "userint"});
