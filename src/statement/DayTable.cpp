@@ -6,6 +6,7 @@
 #include <span>
 #include <utility>
 
+#include "account/DateEntry.h"
 #include "account/NumericEntry.h"
 #include "support/WholeFile.h"
 
@@ -23,7 +24,8 @@ struct Line {
 
 // ---- Lines and cells
 
-/// The cells of a line, without their quotes.
+/// The cells of a line, without their quotes. No cell of a day holds a quote or a line end; for one
+/// that did, a reader of whole CSV files would have to take the place of this.
 std::vector<std::string> CellsOf(std::string_view line, char separator) {
   std::vector<std::string> cells(1);
   bool quoted = false;
@@ -79,22 +81,6 @@ Refusal RefuseCell(std::size_t line, const std::string& cell, const char* what) 
   return RefuseLine(line, shown + " is no " + what + ".");
 }
 
-/// Reads a date whose parts "-", "/" or "." separate, month first or year first.
-std::optional<Date> ReadDate(std::string_view text) {
-  std::vector<std::string> parts(1);
-  for (const char c : Trim(text)) {
-    const bool ends = c == '-' || c == '/' || c == '.';
-    if (ends) parts.emplace_back();
-    if (!ends) parts.back() += c;
-  }
-  if (parts.size() != 3) return std::nullopt;
-  if (parts.front().size() == 4) std::ranges::rotate(parts, parts.begin() + 1);
-  for (auto part = parts.begin(); part != parts.end() - 1; ++part) {
-    if (part->size() == 1) part->insert(0, "0");
-  }
-  return ParseDate(parts[0] + '-' + parts[1] + '-' + parts[2]);
-}
-
 std::size_t DecimalsOf(const std::string& number) {
   const auto point = number.find('.');
   return point == number.npos ? 0 : number.size() - point - 1;
@@ -118,7 +104,7 @@ std::variant<DayLine, Refusal> ReadLine(const DayTable& table, const Line& line)
   DayLine read{.number = line.number, .date = {}, .day = {}};
   std::span<const std::string> cells = line.cells;
   if (table.hasDates) {
-    read.date = ReadDate(cells.front());
+    read.date = ReadPastedDate(cells.front());
     if (!read.date) return RefuseCell(line.number, cells.front(), "date");
     cells = cells.subspan(1);
     if (cells.empty()) return RefuseLine(line.number, "There is no balance.");
@@ -142,7 +128,7 @@ std::variant<DayLine, Refusal> ReadLine(const DayTable& table, const Line& line)
 std::variant<DayTable, Refusal> ReadTable(std::vector<Line> lines, bool singleIsRate) {
   const auto first = std::ranges::find_if_not(lines, IsEmpty);
   if (first == lines.end()) return RefuseTable("There are no balances.");
-  DayTable table{.hasDates = ReadDate(first->cells.front()).has_value(), .lines = {}};
+  DayTable table{.hasDates = ReadPastedDate(first->cells.front()).has_value(), .lines = {}};
   table.hasBalances = !singleIsRate || std::ranges::any_of(lines, [](const Line& line) {
     return line.cells.size() > 1;
   });

@@ -144,9 +144,8 @@ class Walk : public WindowTest {
       {"type", Each([this](auto& name, auto& text) { Type(name, text); })},
       {"keys", Each([this](auto& text, auto&) { Keys(text); })},
       {"key", Each([this](auto& name, auto&) { Press(name); })},
-      {"copy", Each([](auto& text, auto&) {
-         QGuiApplication::clipboard()->setText(Unescaped(text));
-       })},
+      {"copy",
+       Each([](auto& text, auto&) { QGuiApplication::clipboard()->setText(Unescaped(text)); })},
       {"opened", [this](auto& words) { Opened(Unescaped(words[0])); }},
       {"menu", Each([this](auto& item, auto&) { Menu(item); })},
       {"close", Each([this](auto& name, auto&) {

@@ -6,8 +6,8 @@
 #include "platform/MessageBox.h"
 #include "support/NumberText.h"
 #include "windows/frame/DateKeys.h"
-#include "windows/frame/PasteFilter.h"
 #include "windows/frame/PageLayout.h"
+#include "windows/frame/PasteFilter.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -126,8 +126,7 @@ void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
   field->setAttribute(Qt::WA_InputMethodEnabled, false);
   connect(field, &QLineEdit::textChanged, this,
           [this, field, rule] { NumericChange(field, rule); });
-  new PasteFilter(field,
-                  [this, field, rule](const QString& text) { PasteNumber(field, rule, text); });
+  new PasteFilter(field, [this, field](const QString& text) { PasteInto(field, text); });
 }
 
 void Form::BindDate(QLineEdit* field) {
@@ -175,7 +174,8 @@ void Form::NumericChange(QLineEdit* field, const NumericRule& rule) {
   if (limited.message) Tell(*limited.message);
 }
 
-void Form::PasteNumber(QLineEdit* field, const NumericRule& rule, const QString& text) {
+void Form::PasteInto(QLineEdit* field, const QString& text) {
+  const NumericRule& rule = numeric_.at(field);
   const auto number = PastedNumber(PlaceIn(field), text.toStdString(), rule.kind);
   const bool hasSigns = number && number->find_first_of("-.") != number->npos;
   if (!number || (rule.digitsOnly && hasSigns)) return ShowHint(kNumberNotPasted);

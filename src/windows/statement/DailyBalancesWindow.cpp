@@ -4,12 +4,13 @@
 
 #include "platform/MessageBox.h"
 #include "platform/OpenDialog.h"
-#include "platform/WorkArea.h"
 #include "statement/DayFilling.h"
+#include "statement/DayNotice.h"
 #include "statement/DayTable.h"
 #include "support/ProgramTitle.h"
 #include "support/WholeFile.h"
 #include "ui_DailyBalancesWindow.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 #include "windows/statement/DayGrid.h"
 
@@ -18,6 +19,8 @@ namespace corvane {
 namespace {
 
 constexpr int kHelpContext = 10;
+/// Three columns of a page have to fit beside each other at every size of the font.
+constexpr int kBalanceDigits = 12;
 
 }  // namespace
 
@@ -40,6 +43,7 @@ void DailyBalancesWindow::BindFields() {
     const auto& [label, balance, rate] = grid_->Rows()[row];
     BindNumeric(balance, {.repairMinus = true, .decimals = 2, .kind = "bal"});
     BindNumeric(rate, {.repairMinus = true, .decimals = 4, .kind = "int"});
+    FitToDigits(*balance, kBalanceDigits);
     SelectTextOnFocus(balance);
     SelectTextOnFocus(rate);
     OnLostFocus(balance, [this, row](const QString&) { txtDayBal_LostFocus(row); });
@@ -52,14 +56,15 @@ void DailyBalancesWindow::BindCommands() {
   OnClick(ui_->cmdNext, [this] { LeaveForPage(grid_->Page() + 1); });
   OnClick(ui_->cmdContinue, [this] { cmdContinue_Click(); });
   OnClick(ui_->cmdClear, [this] {
-    Change(ClearDays(*daily_));
+    Fill(ClearDays(*daily_));
     GoToPage(1);
   });
   OnClick(ui_->cmdPrint, [this] { cmdPrint_Click(); });
   OnMenu(ui_->mnuUndo, [this] { mnuUndo_Click(); });
-  OnMenu(ui_->mnuPaste, [this] { Paste(); });
-  OnMenu(ui_->mnuCopyBefore, [this] { Change(CopyDayBefore(*daily_, place_.day)); });
-  OnMenu(ui_->mnuCopyToEnd, [this] { Change(CopyToEnd(*daily_, place_.day)); });
+  OnMenu(ui_->mnuPaste,
+         [this] { PasteInto(grid_->FieldAt(place_), QGuiApplication::clipboard()->text()); });
+  OnMenu(ui_->mnuCopyBefore, [this] { Fill(CopyDayBefore(*daily_, place_.day)); });
+  OnMenu(ui_->mnuCopyToEnd, [this] { Fill(CopyToEnd(*daily_, place_.day)); });
   OnMenu(ui_->mnuLoad, [this] { mnuLoad_Click(); });
 }
 
@@ -78,10 +83,6 @@ void DailyBalancesWindow::OrderTabs() {
        {ui_->cmdNext, ui_->cmdPrevious, ui_->cmdContinue, ui_->cmdClear, ui_->cmdPrint}) {
     append(button);
   }
-}
-
-void DailyBalancesWindow::Form_Load() {
-  CenterInWorkArea(*this);
 }
 
 bool DailyBalancesWindow::Form_QueryUnload() {
@@ -108,7 +109,6 @@ bool DailyBalancesWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool DailyBalancesWindow::HandlesKey(const DayPlace& place, const QKeyEvent& press) {
-  if (press.matches(QKeySequence::Paste)) return PasteTable(place);
   if (press.matches(QKeySequence::Undo)) return !IsTyping(place) && (mnuUndo_Click(), true);
   if (press.modifiers() & ~Qt::KeypadModifier) return false;
   const bool goesUp = press.key() == Qt::Key_Up;
@@ -128,15 +128,11 @@ void DailyBalancesWindow::GoTo(const DayPlace& place) {
   if (page == grid_->Page()) FocusField(grid_->FieldAt(place));
 }
 
-bool DailyBalancesWindow::PasteTable(const DayPlace& place) {
-  const std::string copied = QApplication::clipboard()->text().toStdString();
-  if (!IsTable(copied)) return false;
-  Change(PasteDays(*daily_, place, copied));
-  return true;
-}
-
-void DailyBalancesWindow::Paste() {
-  if (!PasteTable(place_)) grid_->FieldAt(place_)->paste();
+void DailyBalancesWindow::PasteInto(QLineEdit* field, const QString& text) {
+  const std::string pasted = text.toStdString();
+  FocusField(field);
+  if (!IsTable(pasted)) return Form::PasteInto(field, text);
+  Fill(PasteDays(*daily_, place_, pasted));
 }
 
 /// What is being typed is the field's own to take back.
@@ -164,22 +160,21 @@ void DailyBalancesWindow::mnuLoad_Click() {
   if (const auto* error = std::get_if<FileError>(&text)) {
     return Tell({"The file cannot be read: " + error->reason, FieldAt(place_)});
   }
-  Change(LoadDays(*daily_, std::get<std::string>(text)));
+  Fill(LoadDays(*daily_, std::get<std::string>(text)));
 }
 
-void DailyBalancesWindow::Change(const std::variant<DailyBalances, Refusal>& days) {
-  if (const auto* refusal = std::get_if<Refusal>(&days)) return Tell(*refusal);
-  Change(std::get<DailyBalances>(days));
-}
-
-void DailyBalancesWindow::Change(DailyBalances days) {
-  if (!ChangedDays(*daily_, days)) return;
-  const std::string told = ChangeText(*daily_, days);
-  Remember(history_, *daily_);
+void DailyBalancesWindow::Take(DailyBalances days) {
+  if (ChangedDays(*daily_, days)) Remember(history_, *daily_);
   *daily_ = std::move(days);
+}
+
+void DailyBalancesWindow::Fill(const std::variant<DailyBalances, Refusal>& days) {
+  if (const auto* refusal = std::get_if<Refusal>(&days)) return Tell(*refusal);
+  const std::string change = ChangeText(*daily_, std::get<DailyBalances>(days));
+  Take(std::get<DailyBalances>(days));
   ShowPage(grid_->Page());
-  grid_->FieldAt(place_)->selectAll();
-  statusBar()->showMessage(QString::fromStdString(told));
+  FocusField(grid_->FieldAt(place_));
+  if (!change.empty()) ShowHint(change);
 }
 
 void DailyBalancesWindow::LeaveForPage(int page) {
@@ -214,20 +209,21 @@ bool DailyBalancesWindow::TakePage() {
 
 void DailyBalancesWindow::txtDayBal_LostFocus(std::size_t row) {
   const std::size_t day = grid_->Days(*daily_).first + row;
-  DailyBalances changed = *daily_;
-  EnterBalance(changed, day, TextOf(grid_->Rows()[row].balance));
-  if (ChangedDays(*daily_, changed)) Remember(history_, *daily_);
-  *daily_ = std::move(changed);
+  DailyBalances days = *daily_;
+  EnterBalance(days, day, grid_->Typed(day).balance);
+  const bool changed = ChangedDays(*daily_, days).has_value();
+  Take(std::move(days));
   grid_->ShowDay(*daily_, day);
   ShowSummary();
+  const auto notice = DayNotice(*daily_, day);
+  if (changed && notice) ShowHint(*notice);
 }
 
 void DailyBalancesWindow::txtRate_LostFocus(std::size_t row) {
   const std::size_t day = grid_->Days(*daily_).first + row;
-  DailyBalances changed = *daily_;
-  TakeDay(changed, day, grid_->Typed(day));
-  if (ChangedDays(*daily_, changed)) Remember(history_, *daily_);
-  *daily_ = std::move(changed);
+  DailyBalances days = *daily_;
+  TakeDay(days, day, grid_->Typed(day));
+  Take(std::move(days));
 }
 
 bool DailyBalancesWindow::AcceptsEmptyDays() {

@@ -22,7 +22,6 @@ class DailyBalancesWindow : public Form {
   explicit DailyBalancesWindow(WindowRegistry& registry);
   ~DailyBalancesWindow() override;
 
-  void Form_Load() override;
   bool Form_QueryUnload() override;
 
   /// Shows the days, which keep what is entered; `computed` gets what Compute ADB found of them.
@@ -31,6 +30,8 @@ class DailyBalancesWindow : public Form {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  /// A copied table fills the days from the field's on.
+  void PasteInto(QLineEdit* field, const QString& text) override;
 
  private:
   void BindFields();
@@ -45,8 +46,6 @@ class DailyBalancesWindow : public Form {
 
   bool HandlesKey(const DayPlace& place, const QKeyEvent& press);
   bool IsTyping(const DayPlace& place) const;
-  bool PasteTable(const DayPlace& place);
-  void Paste();
   /// Goes on to a day's field of the same column; behind the last day to Compute ADB.
   void GoTo(const DayPlace& place);
 
@@ -57,10 +56,10 @@ class DailyBalancesWindow : public Form {
   /// Takes what stands on the page, or tells why it cannot be left.
   bool TakePage();
   bool AcceptsEmptyDays();
-  /// Takes changed days over in a way that can be taken back.
-  void Change(DailyBalances days);
-  /// The same of many days, or tells why not.
-  void Change(const std::variant<DailyBalances, Refusal>& days);
+  /// Takes what a person did to the days, so that it can be taken back.
+  void Take(DailyBalances days);
+  /// The same of many days, and says so, or tells why not.
+  void Fill(const std::variant<DailyBalances, Refusal>& days);
 
   std::unique_ptr<Ui::DailyBalancesWindow> ui_;
   std::unique_ptr<DayGrid> grid_;

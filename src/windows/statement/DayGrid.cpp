@@ -10,26 +10,12 @@ namespace {
 
 constexpr int kRowsPerColumn = 11;
 constexpr int kColumns = 3;
-constexpr int kGridColumns = 4;     ///< label, balance, rate and the gap to the next three
-constexpr int kBalanceDigits = 12;  ///< "999999999.99"
-constexpr int kRateDigits = 8;      ///< "100.0000"
+constexpr int kGridColumns = 4;  ///< label, balance, rate and the gap to the next three
 
-/// Makes a field as wide as so many digits of its font, and one for the cursor.
-void FitToDigits(QLineEdit& field, int digits) {
-  QStyleOptionFrame option;
-  option.initFrom(&field);
-  option.lineWidth = field.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &field);
-  const QSize text(field.fontMetrics().horizontalAdvance('0') * (digits + 1), 0);
-  field.setFixedWidth(
-      field.style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, &field).width());
-}
-
-QLineEdit* MakeField(QWidget& parent, const char* name, int index, const char* tip, int digits) {
+QLineEdit* MakeField(QWidget& parent, const char* name, int index, const char* tip) {
   auto* field = new QLineEdit(&parent);
   field->setObjectName(QString("%1(%2)").arg(name).arg(index));
   field->setToolTip(tip);
-  field->setAlignment(Qt::AlignRight);
-  FitToDigits(*field, digits);
   return field;
 }
 
@@ -49,13 +35,11 @@ DayGrid::DayGrid(QFrame& frame, QGridLayout& layout) : layout_(layout) {
   }
   // What is left over comes behind the days: few days look as they do among many.
   layout_.setColumnStretch(kColumns * kGridColumns, 1);
-  layout_.setRowStretch(1 + kRowsPerColumn, 1);
 }
 
 DayGrid::Row DayGrid::MakeRow(QFrame& frame, int index) {
-  const Row row{new QLabel(&frame),
-                MakeField(frame, "txtDayBal", index, "Daily Balance", kBalanceDigits),
-                MakeField(frame, "txtRate", index, "Daily Interest Rate", kRateDigits)};
+  const Row row{new QLabel(&frame), MakeField(frame, "txtDayBal", index, "Daily Balance"),
+                MakeField(frame, "txtRate", index, "Daily Interest Rate")};
   KeepReadable(row.rate);
   row.label->setObjectName(QString("lblDay(%1)").arg(index));
   row.label->setBuddy(row.balance);
