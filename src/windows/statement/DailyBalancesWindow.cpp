@@ -19,8 +19,6 @@ namespace corvane {
 namespace {
 
 constexpr int kHelpContext = 10;
-/// Three columns of a page have to fit beside each other at every size of the font.
-constexpr int kBalanceDigits = 12;
 
 }  // namespace
 
@@ -29,60 +27,42 @@ DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& registry)
   ui_->setupUi(this);
   setWindowFlag(Qt::Dialog);
   NameArrayElements();
-  grid_ = std::make_unique<DayGrid>(*ui_->fraDays, *ui_->days);
+  grid_ = std::make_unique<DayGrid>(*ui_->fraDays, *ui_->days, *ui_->cmdPrint);
   BindFields();
   BindCommands();
-  OrderTabs();
   BindCommonMenus(kHelpContext);
 }
 
 DailyBalancesWindow::~DailyBalancesWindow() = default;
 
 void DailyBalancesWindow::BindFields() {
-  for (std::size_t row = 0; row < grid_->Rows().size(); ++row) {
-    const auto& [label, balance, rate] = grid_->Rows()[row];
+  for (const auto& [label, balance, rate] : grid_->Rows()) {
     BindNumeric(balance, {.repairMinus = true, .decimals = 2, .kind = "bal"});
     BindNumeric(rate, {.repairMinus = true, .decimals = 4, .kind = "int"});
-    FitToDigits(*balance, kBalanceDigits);
-    SelectTextOnFocus(balance);
-    SelectTextOnFocus(rate);
-    OnLostFocus(balance, [this, row](const QString&) { txtDayBal_LostFocus(row); });
-    OnLostFocus(rate, [this, row](const QString&) { txtRate_LostFocus(row); });
+    FitToDigits(*balance, DayGrid::kBalanceDigits);
+    for (QLineEdit* field : {balance, rate}) {
+      SelectTextOnFocus(field);
+      OnLostFocus(field,
+                  [this, field](const QString&) { Field_LostFocus(*grid_->PlaceOf(field)); });
+    }
   }
 }
 
 void DailyBalancesWindow::BindCommands() {
-  OnClick(ui_->cmdPrevious, [this] { LeaveForPage(grid_->Page() - 1); });
-  OnClick(ui_->cmdNext, [this] { LeaveForPage(grid_->Page() + 1); });
+  OnClick(ui_->cmdPrevious, [this] { Turn(-1); });
+  OnClick(ui_->cmdNext, [this] { Turn(1); });
   OnClick(ui_->cmdContinue, [this] { cmdContinue_Click(); });
   OnClick(ui_->cmdClear, [this] {
-    Fill(ClearDays(*daily_));
+    Fill(ClearDays(grid_->Days()));
     GoToPage(1);
   });
   OnClick(ui_->cmdPrint, [this] { cmdPrint_Click(); });
   OnMenu(ui_->mnuUndo, [this] { mnuUndo_Click(); });
   OnMenu(ui_->mnuPaste,
          [this] { PasteInto(grid_->FieldAt(place_), QGuiApplication::clipboard()->text()); });
-  OnMenu(ui_->mnuCopyBefore, [this] { Fill(CopyDayBefore(*daily_, place_.day)); });
-  OnMenu(ui_->mnuCopyToEnd, [this] { Fill(CopyToEnd(*daily_, place_.day)); });
+  OnMenu(ui_->mnuCopyBefore, [this] { Fill(CopyDayBefore(grid_->Days(), place_.day)); });
+  OnMenu(ui_->mnuCopyToEnd, [this] { Fill(CopyToEnd(grid_->Days(), place_.day)); });
   OnMenu(ui_->mnuLoad, [this] { mnuLoad_Click(); });
-}
-
-/// The days, then the buttons; whoever has typed a page goes on with Next.
-void DailyBalancesWindow::OrderTabs() {
-  QWidget* last = ui_->cmdPrint;
-  const auto append = [&last](QWidget* next) {
-    setTabOrder(last, next);
-    last = next;
-  };
-  for (const auto& [label, balance, rate] : grid_->Rows()) {
-    append(balance);
-    append(rate);
-  }
-  for (QWidget* button :
-       {ui_->cmdNext, ui_->cmdPrevious, ui_->cmdContinue, ui_->cmdClear, ui_->cmdPrint}) {
-    append(button);
-  }
 }
 
 bool DailyBalancesWindow::Form_QueryUnload() {
@@ -92,7 +72,7 @@ bool DailyBalancesWindow::Form_QueryUnload() {
 }
 
 void DailyBalancesWindow::Edit(DailyBalances& daily, std::optional<ComputedDays>& computed) {
-  daily_ = &daily;
+  grid_->Edit(daily);
   computed_ = &computed;
   setWindowTitle(windowTitle() + " - " + ColumnName(daily.column));
   ui_->lblMinADB->setText(QString::fromStdString(MinimumAdbText(daily.account)));
@@ -109,18 +89,15 @@ bool DailyBalancesWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool DailyBalancesWindow::HandlesKey(const DayPlace& place, const QKeyEvent& press) {
-  if (press.matches(QKeySequence::Undo)) return !IsTyping(place) && (mnuUndo_Click(), true);
-  if (press.modifiers() & ~Qt::KeypadModifier) return false;
-  const bool goesUp = press.key() == Qt::Key_Up;
-  const bool goesOn =
-      press.key() == Qt::Key_Down || press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
-  if (goesUp && place.day > 0) GoTo({place.day - 1, place.isRate});
-  if (goesOn) GoTo({place.day + 1, place.isRate});
-  return goesUp || goesOn;
+  if (press.matches(QKeySequence::Undo) && !grid_->IsTyping(place)) return mnuUndo_Click(), true;
+  const int days = DaysMoved(press);
+  const bool isBefore = place.day == 0 && days < 0;
+  if (days != 0 && !isBefore) GoTo({place.day + static_cast<std::size_t>(days), place.isRate});
+  return days != 0;
 }
 
 void DailyBalancesWindow::GoTo(const DayPlace& place) {
-  if (place.day >= daily_->days.size()) return FocusField(ui_->cmdContinue);
+  if (place.day >= grid_->Days().days.size()) return FocusField(ui_->cmdContinue);
   const int page = PageOf(place.day);
   // As by the button, so that the page is left as its fields demand.
   if (page > grid_->Page()) ui_->cmdNext->click();
@@ -129,26 +106,15 @@ void DailyBalancesWindow::GoTo(const DayPlace& place) {
 }
 
 void DailyBalancesWindow::PasteInto(QLineEdit* field, const QString& text) {
-  const std::string pasted = text.toStdString();
+  if (!IsTable(text.toStdString())) return Form::PasteInto(field, text);
   FocusField(field);
-  if (!IsTable(pasted)) return Form::PasteInto(field, text);
-  Fill(PasteDays(*daily_, place_, pasted));
-}
-
-/// What is being typed is the field's own to take back.
-bool DailyBalancesWindow::IsTyping(const DayPlace& place) const {
-  const auto& [balance, rate] = daily_->days.at(place.day);
-  const QLineEdit* field = grid_->FieldAt(place);
-  return field->isUndoAvailable() && TextOf(field) != (place.isRate ? rate : balance);
+  Fill(PasteDays(grid_->Days(), place_, text.toStdString()));
 }
 
 void DailyBalancesWindow::mnuUndo_Click() {
   // A field that shows other days must not take them for what was typed.
   FocusField(ui_->cmdContinue);
-  const DailyBalances before = *daily_;
-  *daily_ = TakeBack(history_, *daily_);
-  const auto changed = ChangedDays(before, *daily_);
-  const std::size_t day = changed ? changed->first : place_.day;
+  const std::size_t day = grid_->TakeBack().value_or(place_.day);
   ShowPage(PageOf(day));
   FocusField(grid_->FieldAt({day}));
 }
@@ -160,25 +126,20 @@ void DailyBalancesWindow::mnuLoad_Click() {
   if (const auto* error = std::get_if<FileError>(&text)) {
     return Tell({"The file cannot be read: " + error->reason, FieldAt(place_)});
   }
-  Fill(LoadDays(*daily_, std::get<std::string>(text)));
-}
-
-void DailyBalancesWindow::Take(DailyBalances days) {
-  if (ChangedDays(*daily_, days)) Remember(history_, *daily_);
-  *daily_ = std::move(days);
+  Fill(LoadDays(grid_->Days(), std::get<std::string>(text)));
 }
 
 void DailyBalancesWindow::Fill(const std::variant<DailyBalances, Refusal>& days) {
   if (const auto* refusal = std::get_if<Refusal>(&days)) return Tell(*refusal);
-  const std::string change = ChangeText(*daily_, std::get<DailyBalances>(days));
-  Take(std::get<DailyBalances>(days));
+  const std::string change = ChangeText(grid_->Days(), std::get<DailyBalances>(days));
+  grid_->Take(std::get<DailyBalances>(days));
   ShowPage(grid_->Page());
   FocusField(grid_->FieldAt(place_));
   if (!change.empty()) ShowHint(change);
 }
 
-void DailyBalancesWindow::LeaveForPage(int page) {
-  if (TakePage()) GoToPage(page);
+void DailyBalancesWindow::Turn(int pages) {
+  if (TakePage()) GoToPage(grid_->Page() + pages);
 }
 
 void DailyBalancesWindow::GoToPage(int page) {
@@ -187,55 +148,39 @@ void DailyBalancesWindow::GoToPage(int page) {
 }
 
 void DailyBalancesWindow::ShowPage(int page) {
-  grid_->ShowPage(*daily_, page);
+  grid_->ShowPage(page);
   ui_->cmdPrevious->setEnabled(page > 1);
-  ui_->cmdNext->setEnabled(HasNextPage(page, daily_->days.size()));
+  ui_->cmdNext->setEnabled(HasNextPage(page, grid_->Days().days.size()));
   ShowSummary();
 }
 
 void DailyBalancesWindow::ShowSummary() {
-  ui_->lblSummary->setText(QString::fromStdString(SummaryText(*daily_)));
+  ui_->lblSummary->setText(QString::fromStdString(SummaryText(grid_->Days())));
 }
 
 bool DailyBalancesWindow::TakePage() {
-  const DaySpan span = grid_->Days(*daily_);
-  for (std::size_t day = span.first; day < span.end; ++day) {
-    TakeDay(*daily_, day, grid_->Typed(day));
-  }
-  const auto refusal = CheckPage(*daily_, grid_->Page());
+  grid_->TakePage();
+  const auto refusal = CheckPage(grid_->Days(), grid_->Page());
   if (refusal) Tell(*refusal);
   return !refusal;
 }
 
-void DailyBalancesWindow::txtDayBal_LostFocus(std::size_t row) {
-  const std::size_t day = grid_->Days(*daily_).first + row;
-  DailyBalances days = *daily_;
-  EnterBalance(days, day, grid_->Typed(day).balance);
-  const bool changed = ChangedDays(*daily_, days).has_value();
-  Take(std::move(days));
-  grid_->ShowDay(*daily_, day);
+void DailyBalancesWindow::Field_LostFocus(const DayPlace& place) {
+  if (!grid_->TakeField(place)) return;
   ShowSummary();
-  const auto notice = DayNotice(*daily_, day);
-  if (changed && notice) ShowHint(*notice);
-}
-
-void DailyBalancesWindow::txtRate_LostFocus(std::size_t row) {
-  const std::size_t day = grid_->Days(*daily_).first + row;
-  DailyBalances days = *daily_;
-  TakeDay(days, day, grid_->Typed(day));
-  Take(std::move(days));
+  if (const auto notice = DayNotice(grid_->Days(), place.day)) ShowHint(*notice);
 }
 
 bool DailyBalancesWindow::AcceptsEmptyDays() {
-  const auto question = EmptyDaysQuestion(*daily_);
+  const auto question = EmptyDaysQuestion(grid_->Days());
   return !question ||
          AskYesNo(this, QString::fromStdString(*question), kProgramTitle, QMessageBox::No);
 }
 
 void DailyBalancesWindow::cmdContinue_Click() {
   if (!TakePage() || !AcceptsEmptyDays()) return;
-  FillRates(*daily_);
-  auto computed = ComputeAdb(*daily_);
+  FillRates(grid_->Days());
+  auto computed = ComputeAdb(grid_->Days());
   if (const auto* refusal = std::get_if<Refusal>(&computed)) {
     ShowPage(grid_->Page());
     return Tell(*refusal);
@@ -246,9 +191,9 @@ void DailyBalancesWindow::cmdContinue_Click() {
 
 void DailyBalancesWindow::cmdPrint_Click() {
   if (!TakePage()) return;
-  FillRates(*daily_);
+  FillRates(grid_->Days());
   ShowPage(grid_->Page());
-  routes().ShowInterestReport(*daily_);
+  routes().ShowInterestReport(grid_->Days());
 }
 
 }  // namespace corvane

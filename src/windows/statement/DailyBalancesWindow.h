@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "statement/DayHistory.h"
+#include "statement/DailyBalances.h"
 #include "windows/frame/Form.h"
 
 namespace Ui {
@@ -36,36 +36,29 @@ class DailyBalancesWindow : public Form {
  private:
   void BindFields();
   void BindCommands();
-  void OrderTabs();
-  void txtDayBal_LostFocus(std::size_t row);
-  void txtRate_LostFocus(std::size_t row);
+  void Field_LostFocus(const DayPlace& place);
   void cmdContinue_Click();
   void cmdPrint_Click();
   void mnuUndo_Click();
   void mnuLoad_Click();
 
   bool HandlesKey(const DayPlace& place, const QKeyEvent& press);
-  bool IsTyping(const DayPlace& place) const;
   /// Goes on to a day's field of the same column; behind the last day to Compute ADB.
   void GoTo(const DayPlace& place);
 
-  void LeaveForPage(int page);
+  void Turn(int pages);
   void GoToPage(int page);
   void ShowPage(int page);
   void ShowSummary();
   /// Takes what stands on the page, or tells why it cannot be left.
   bool TakePage();
   bool AcceptsEmptyDays();
-  /// Takes what a person did to the days, so that it can be taken back.
-  void Take(DailyBalances days);
-  /// The same of many days, and says so, or tells why not.
+  /// Takes days over that were filled, or tells why they were not.
   void Fill(const std::variant<DailyBalances, Refusal>& days);
 
   std::unique_ptr<Ui::DailyBalancesWindow> ui_;
   std::unique_ptr<DayGrid> grid_;
-  DailyBalances* daily_ = nullptr;
   std::optional<ComputedDays>* computed_ = nullptr;
-  DayHistory history_;
   DayPlace place_;  ///< of the field that has or last had the focus
 };
 

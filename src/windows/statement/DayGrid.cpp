@@ -29,9 +29,13 @@ void KeepReadable(QLineEdit* field) {
 
 }  // namespace
 
-DayGrid::DayGrid(QFrame& frame, QGridLayout& layout) : layout_(layout) {
+DayGrid::DayGrid(QFrame& frame, QGridLayout& layout, QWidget& behind) : layout_(layout) {
+  QWidget* last = &behind;
   for (std::size_t index = 0; index < rows_.size(); ++index) {
-    rows_[index] = MakeRow(frame, static_cast<int>(index));
+    const Row& row = rows_[index] = MakeRow(frame, static_cast<int>(index));
+    QWidget::setTabOrder(last, row.balance);
+    QWidget::setTabOrder(row.balance, row.rate);
+    last = row.rate;
   }
   // What is left over comes behind the days: few days look as they do among many.
   layout_.setColumnStretch(kColumns * kGridColumns, 1);
@@ -57,10 +61,19 @@ QLineEdit* DayGrid::FieldAt(const DayPlace& place) const {
   return place.isRate ? row.rate : row.balance;
 }
 
-void DayGrid::ShowPage(const DailyBalances& daily, int page) {
+std::optional<DayPlace> DayGrid::PlaceOf(const QObject* field) const {
+  std::size_t day = FirstDay();
+  for (const Row& row : rows_) {
+    if (field == row.balance || field == row.rate) return DayPlace{day, field == row.rate};
+    ++day;
+  }
+  return std::nullopt;
+}
+
+void DayGrid::ShowPage(int page) {
   page_ = page;
-  for (std::size_t row = 0; row < rows_.size(); ++row) ShowRow(daily, row);
-  const DaySpan span = Days(daily);
+  for (std::size_t row = 0; row < rows_.size(); ++row) ShowRow(row);
+  const DaySpan span = DaysOnPage(page, daily_->days.size());
   for (int column = 0; column < kColumns; ++column) {
     const bool hasDays = span.end - span.first > std::size_t(column * kRowsPerColumn);
     for (const int heading : {0, 2}) {
@@ -69,23 +82,19 @@ void DayGrid::ShowPage(const DailyBalances& daily, int page) {
   }
 }
 
-void DayGrid::ShowDay(const DailyBalances& daily, std::size_t day) {
-  ShowRow(daily, day % kDaysPerPage);
-}
-
-void DayGrid::ShowRow(const DailyBalances& daily, std::size_t row) {
-  const std::size_t day = kDaysPerPage * static_cast<std::size_t>(page_ - 1) + row;
+void DayGrid::ShowRow(std::size_t row) {
+  const std::size_t day = FirstDay() + row;
   const auto& [label, balance, rate] = rows_[row];
-  const bool exists = day < daily.days.size();
-  const DayEntry texts = exists ? daily.days[day] : DayEntry{};
-  const QString date = QString::fromStdString(DayLabel(daily, day));
+  const bool exists = day < daily_->days.size();
+  const DayEntry texts = exists ? daily_->days[day] : DayEntry{};
+  const QString date = QString::fromStdString(DayLabel(*daily_, day));
   label->setText(date);
   label->setVisible(exists);
   balance->setVisible(exists);
   balance->setAccessibleName("Daily balance " + date);
   SetText(balance, texts.balance);
   rate->setVisible(exists);
-  rate->setEnabled(daily.TakesRates());
+  rate->setEnabled(daily_->TakesRates());
   rate->setAccessibleName("Rate " + date);
   SetText(rate, texts.rate);
 }
@@ -95,13 +104,53 @@ DayEntry DayGrid::Typed(std::size_t day) const {
   return {TextOf(row.balance), TextOf(row.rate)};
 }
 
-std::optional<DayPlace> DayGrid::PlaceOf(const QObject* field) const {
-  std::size_t day = kDaysPerPage * static_cast<std::size_t>(page_ - 1);
-  for (const Row& row : rows_) {
-    if (field == row.balance || field == row.rate) return DayPlace{day, field == row.rate};
-    ++day;
+bool DayGrid::Take(DailyBalances days) {
+  const bool isChange = ChangedDays(*daily_, days).has_value();
+  if (isChange) Remember(history_, *daily_);
+  *daily_ = std::move(days);
+  return isChange;
+}
+
+bool DayGrid::TakeField(const DayPlace& place) {
+  const DayEntry typed = Typed(place.day);
+  DailyBalances days = *daily_;
+  if (place.isRate) TakeDay(days, place.day, typed);
+  if (!place.isRate) EnterBalance(days, place.day, typed.balance);
+  const bool isChange = Take(std::move(days));
+  if (!place.isRate) ShowRow(place.day - FirstDay());
+  return isChange;
+}
+
+void DayGrid::TakePage() {
+  const DaySpan span = DaysOnPage(page_, daily_->days.size());
+  for (std::size_t day = span.first; day < span.end; ++day) TakeDay(*daily_, day, Typed(day));
+}
+
+std::optional<std::size_t> DayGrid::TakeBack() {
+  const DailyBalances before = *daily_;
+  *daily_ = corvane::TakeBack(history_, before);
+  const auto changed = ChangedDays(before, *daily_);
+  return changed ? std::optional(changed->first) : std::nullopt;
+}
+
+bool DayGrid::IsTyping(const DayPlace& place) const {
+  const auto& [balance, rate] = daily_->days.at(place.day);
+  const QLineEdit* field = FieldAt(place);
+  return field->isUndoAvailable() && TextOf(field) != (place.isRate ? rate : balance);
+}
+
+int DaysMoved(const QKeyEvent& press) {
+  if (press.modifiers() & ~Qt::KeypadModifier) return 0;
+  switch (press.key()) {
+    case Qt::Key_Down:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return 1;
+    case Qt::Key_Up:
+      return -1;
+    default:
+      return 0;
   }
-  return std::nullopt;
 }
 
 }  // namespace corvane
