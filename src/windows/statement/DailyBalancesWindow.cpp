@@ -16,11 +16,7 @@
 
 namespace corvane {
 
-namespace {
-
-constexpr int kHelpContext = 10;
-
-}  // namespace
+static constexpr int kHelpContext = 10;
 
 DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& registry)
     : Form(registry, Role::Secondary), ui_(std::make_unique<Ui::DailyBalancesWindow>()) {
@@ -40,6 +36,7 @@ void DailyBalancesWindow::BindFields() {
     BindNumeric(balance, {.repairMinus = true, .decimals = 2, .kind = "bal"});
     BindNumeric(rate, {.repairMinus = true, .decimals = 4, .kind = "int"});
     FitToDigits(*balance, DayGrid::kBalanceDigits);
+    FitToDigits(*rate, DayGrid::kRateDigits);
     for (QLineEdit* field : {balance, rate}) {
       SelectTextOnFocus(field);
       OnLostFocus(field,
@@ -114,9 +111,11 @@ void DailyBalancesWindow::PasteInto(QLineEdit* field, const QString& text) {
 void DailyBalancesWindow::mnuUndo_Click() {
   // A field that shows other days must not take them for what was typed.
   FocusField(ui_->cmdContinue);
-  const std::size_t day = grid_->TakeBack().value_or(place_.day);
+  const auto changed = grid_->TakeBack();
+  const std::size_t day = changed.value_or(place_.day);
   ShowPage(PageOf(day));
   FocusField(grid_->FieldAt({day}));
+  if (changed) ShowHint("Taken back.");
 }
 
 void DailyBalancesWindow::mnuLoad_Click() {
@@ -172,9 +171,8 @@ void DailyBalancesWindow::Field_LostFocus(const DayPlace& place) {
 }
 
 bool DailyBalancesWindow::AcceptsEmptyDays() {
-  const auto question = EmptyDaysQuestion(grid_->Days());
-  return !question ||
-         AskYesNo(this, QString::fromStdString(*question), kProgramTitle, QMessageBox::No);
+  const QString question = QString::fromStdString(EmptyDaysQuestion(grid_->Days()).value_or(""));
+  return question.isEmpty() || AskYesNo(this, question, kProgramTitle, QMessageBox::No);
 }
 
 void DailyBalancesWindow::cmdContinue_Click() {

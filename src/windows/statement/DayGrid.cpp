@@ -47,7 +47,7 @@ DayGrid::Row DayGrid::MakeRow(QFrame& frame, int index) {
   KeepReadable(row.rate);
   row.label->setObjectName(QString("lblDay(%1)").arg(index));
   row.label->setBuddy(row.balance);
-  row.label->setMinimumWidth(row.label->fontMetrics().horizontalAdvance("Mmm 00"));
+  row.label->setMinimumWidth(row.label->fontMetrics().horizontalAdvance("May 00"));
   const int line = 1 + index % kRowsPerColumn;
   const int column = kGridColumns * (index / kRowsPerColumn);
   layout_.addWidget(row.label, line, column);

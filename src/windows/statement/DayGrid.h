@@ -24,8 +24,9 @@ class DayGrid {
     QLineEdit* rate;
   };
 
-  /// Three columns have to fit beside each other at every size of the font.
-  static constexpr int kBalanceDigits = 12;
+  // Three columns have to fit beside each other on a small screen, in a font of 14 points.
+  static constexpr int kBalanceDigits = 11;  ///< "99999999.99"
+  static constexpr int kRateDigits = 6;      ///< "10.1234", whose point is narrow
 
   /// Makes the fields; the frame owns them. Tab reaches them, day by day, behind the control.
   DayGrid(QFrame& frame, QGridLayout& layout, QWidget& behind);
