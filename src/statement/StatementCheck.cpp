@@ -107,12 +107,8 @@ DailyBalances DaysOf(const StatementCheck& check, BalanceColumn column, const Da
                       .basis = check.entry.basis,
                       .start = PeriodStart(check.entry, today),
                       .days = check.days[IndexOf(column)]};
-  const auto count = static_cast<std::size_t>(check.entry.Days(column).Value());
-  if (daily.days.size() == count) {
-    FillRates(daily);
-  } else {
-    daily.days.assign(count, {});
-  }
+  FillRates(daily);
+  daily.days.resize(static_cast<std::size_t>(check.entry.Days(column).Value()));
   return daily;
 }
 

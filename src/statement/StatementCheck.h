@@ -65,7 +65,7 @@ void FollowChanges(StatementCheck& check);
 CheckOutcome StartCompute(StatementCheck& check, BalanceColumn column);
 
 /// What the daily window works on once StartCompute has passed: the column's days as they were
-/// handed back last when they fit the days of the period, else empty ones.
+/// handed back last, as many as the period has; further ones are empty.
 DailyBalances DaysOf(const StatementCheck& check, BalanceColumn column, const Date& today);
 
 /// The daily window handed back an average: shows it, and the interest unless it belongs to the

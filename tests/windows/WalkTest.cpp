@@ -1,3 +1,5 @@
+#include "TemporaryFolder.h"
+#include "platform/OpenDialog.h"
 #include "windows/WindowTest.h"
 #include "windows/start/MainMenu.h"
 
@@ -102,6 +104,10 @@ int KeysOf(const QKeyCombination& chord) {
   return 1 + static_cast<int>(qPopulationCount(chord.keyboardModifiers().toInt()));
 }
 
+QString Unescaped(QString text) {
+  return text.replace("\\n", "\n").replace("\\t", "\t");
+}
+
 /// A person's way through the windows, from the main menu on, as a file in walks tells it line by
 /// line; docs/testing.md lists the words.
 class Walk : public WindowTest {
@@ -149,9 +155,9 @@ class Walk : public WindowTest {
          Keys(text);
        })},
       {"key", Each([this](auto& name, auto&) { Press(name); })},
-      {"copy", Each([](QString text, auto&) {
-         QGuiApplication::clipboard()->setText(text.replace("\\n", "\n").replace("\\t", "\t"));
-       })},
+      {"copy",
+       Each([](auto& text, auto&) { QGuiApplication::clipboard()->setText(Unescaped(text)); })},
+      {"opened", [this](auto& words) { Opened(Unescaped(words[0])); }},
       {"menu", Each([this](auto& item, auto&) { Menu(item); })},
       {"entry", Each([this](auto& number, auto&) { ClickEntry(number.toInt()); })},
       {"close", Each([this](auto& name, auto&) {
@@ -272,10 +278,17 @@ class Walk : public WindowTest {
 
   /// The text of a box, then its title and answer where they are not the usual ones.
   void Announce(const Words& words, MessageIcon icon) {
-    ExpectedBox box{.text = words.value(0).replace("\\n", "\n").toStdString(), .icon = icon};
+    ExpectedBox box{.text = Unescaped(words.value(0)).toStdString(), .icon = icon};
     if (words.size() > 1) box.title = words[1].toStdString();
     if (words.size() > 2) box.answer = words[2] == "Yes" ? QMessageBox::Yes : QMessageBox::No;
     Expect(box);
+  }
+
+  /// The next open dialog is answered with a file of this text.
+  void Opened(const QString& text) {
+    QFile file(folder_.Path() / "opened.csv");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) > 0);
+    SetOpenAnswer([path = file.fileName()] { return path; });
   }
 
   void Shows(const QString& name, const QString& text) {
@@ -328,6 +341,7 @@ class Walk : public WindowTest {
   }
 
   const std::string file_;
+  const TemporaryFolder folder_;
   int expected_ = 0;
   int pressed_ = 0;  ///< keys so far
   bool usesMouse_ = false;

@@ -171,8 +171,7 @@ void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
   field->setAttribute(Qt::WA_InputMethodEnabled, false);
   connect(field, &QLineEdit::textChanged, this,
           [this, field, rule] { NumericChange(field, rule); });
-  new PasteFilter(field,
-                  [this, field, rule](const QString& text) { PasteNumber(field, rule, text); });
+  new PasteFilter(field, [this, field](const QString& text) { PasteInto(field, text); });
 }
 
 void Form::BindDate(QLineEdit* field) {
@@ -220,7 +219,8 @@ void Form::NumericChange(QLineEdit* field, const NumericRule& rule) {
   if (limited.message) Tell(*limited.message);
 }
 
-void Form::PasteNumber(QLineEdit* field, const NumericRule& rule, const QString& text) {
+void Form::PasteInto(QLineEdit* field, const QString& text) {
+  const NumericRule& rule = numeric_.at(field);
   const auto number = PastedNumber(PlaceIn(field), text.toStdString(), rule.kind);
   const bool hasSigns = number && number->find_first_of("-.") != number->npos;
   if (!number || (rule.digitsOnly && hasSigns)) return ShowHint(kNumberNotPasted);

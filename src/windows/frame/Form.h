@@ -112,6 +112,8 @@ class Form : public QMainWindow {
   /// Applies the key filter and, on every change, the minus repair and the decimal limit; the field
   /// becomes as wide as what it may hold, its text stands at the right.
   void BindNumeric(QLineEdit* field, const NumericRule& rule);
+  /// Takes what is pasted into a numeric field, or says why not.
+  virtual void PasteInto(QLineEdit* field, const QString& text);
   /// Selects the first characters of the text, or all of it, when the field gets the focus.
   void SelectTextOnFocus(QLineEdit* field, int characters = INT_MAX);
   /// Rewrites the field "######0.00" when it loses the focus.
@@ -148,7 +150,7 @@ class Form : public QMainWindow {
   bool TakeFocus(QAbstractButton* button);
   bool CommitFor(QAction* item);
   void NumericChange(QLineEdit* field, const NumericRule& rule);
-  void PasteNumber(QLineEdit* field, const NumericRule& rule, const QString& text);
+
   bool PressControl(const QKeySequence& accessKey);
   bool RefusesKey(QLineEdit* field, const QKeyEvent& press);
   bool RefusesNumericKey(QLineEdit* field, const QKeyEvent& press, const NumericRule& rule);
