@@ -159,7 +159,6 @@ int main(int argc, char** argv) {
   }
   corvane::PrepareWebView();
   QApplication application(argc, argv);
-  QApplication::setApplicationVersion(CORVANE_VERSION);
   QApplication::setCursorFlashTime(0);  // the same picture at any time
   corvane::SetToday(year{2025} / May / 2);
   corvane::Session session;
