@@ -38,8 +38,16 @@ for file in applications/corvane.desktop metainfo/org.example.corvane.metainfo.x
 done
 grep -q ' ./usr/bin/corvane -> ../lib/corvane/corvane$' "$work/contents" ||
   fail "/usr/bin lacks the program."
-dpkg-deb --field "$work"/package/*.deb Depends | grep -q libqt6webenginewidgets6 ||
-  fail "The package does not depend on its libraries."
+# A library that came in newly wants its licence told, and maybe its package in README.txt.
+libraries=$(dpkg-deb --field "$work"/package/*.deb Depends | sed 's/([^)]*)//g; s/,/ /g')
+case "$libraries" in
+  *libqt6webenginewidgets6*) ;;
+  *) fail "The package does not depend on its libraries." ;;
+esac
+for library in $libraries; do
+  grep -qwF -- "$library" packaging/THIRD-PARTY.txt ||
+    fail "packaging/THIRD-PARTY.txt lacks $library."
+done
 desktop-file-validate "$share/applications/corvane.desktop"
 appstreamcli validate --no-net "$share/metainfo/org.example.corvane.metainfo.xml" ||
   fail "The description for software centres is not valid."
