@@ -330,7 +330,6 @@ int main(int argc, char** argv) {
   corvane::PrepareWebView();
   corvane::PrepareHelpView();
   QApplication application(argc, argv);
-  QApplication::setApplicationVersion(CORVANE_VERSION);
   QApplication::setCursorFlashTime(0);  // the same picture at any time
   if (everyWindow) {
     QFont font = QApplication::font();

@@ -8,6 +8,7 @@
 #include "platform/SystemInfo.h"
 #include "support/Paths.h"
 #include "support/ProgramTitle.h"
+#include "support/ProgramVersion.h"
 #include "ui_AboutWindow.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -39,7 +40,7 @@ void AboutWindow::Form_Load() {
   ui_->picIcon->setPixmap(ProgramIcon().pixmap(128));
   ui_->picIcon->setFixedSize(QSize(1, 1) * kPictureLines * fontMetrics().lineSpacing());
   ui_->lblTitle->setText(title);
-  ui_->lblVersion->setText("Version " + QApplication::applicationVersion());
+  ui_->lblVersion->setText(QString("Version ") + kProgramVersion);
   const QString folder = QString::fromStdString(PathText(ProgramFolder()));
   ui_->TextConfig->setPlainText(QString("To report problems, contact:\r\n\t%1\r\n\r\n"
                                         "Application Path=%2\r\n")
