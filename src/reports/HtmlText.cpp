@@ -71,6 +71,22 @@ std::string BoldRedCell(std::string_view text) {
   return Enclosed("<TD><b><Font Color=\"#FF0000\">", text, "</b></TD>");
 }
 
+std::string TableCell(std::string_view text) {
+  return Enclosed("<td>", text, "</td>");
+}
+
+std::string TableHtml(std::string_view caption, const std::vector<std::string>& headings,
+                      const std::vector<std::string>& rows) {
+  std::string html = "<table><caption>";
+  html.append(caption).append("</caption><thead><tr>");
+  for (const std::string& heading : headings) {
+    html.append("<th scope=\"col\">").append(heading).append("</th>");
+  }
+  html += "</tr></thead><tbody>";
+  for (const std::string& cells : rows) html.append("<tr>").append(cells).append("</tr>");
+  return html + "</tbody></table>";
+}
+
 std::string BoldVerdictCell(Verdict verdict) {
   const char* text = VerdictText(verdict);
   return verdict == Verdict::Ok ? BlackCell(text) : BoldRedCell(text);

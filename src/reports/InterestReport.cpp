@@ -2,6 +2,7 @@
 
 #include "reports/HtmlText.h"
 #include "reports/ReportTags.h"
+#include "reports/RuleText.h"
 #include "support/NumberText.h"
 
 namespace corvane {
@@ -32,6 +33,28 @@ Rows DayRows(const DailyBalances& daily) {
   return rows;
 }
 
+int LastDay(const DailyBalances& daily) {
+  return static_cast<int>(daily.days.size()) - 1;
+}
+
+/// Date and interest of every day, three days to a row as in the rows of the balances.
+std::string InterestOfDaysHtml(const DailyBalances& daily, const PeriodInterest& interest) {
+  const auto columns = SplitDays(daily.days.size());
+  Rows rows;
+  for (std::size_t k = 0; k < columns[0].end; ++k) {
+    std::string& cells = rows.emplace_back();
+    for (const DaySpan& column : columns) {
+      const std::size_t day = column.first + k;
+      const bool isDay = day < column.end;
+      cells += TableCell(isDay ? FormatDate(AddDays(daily.start, static_cast<int>(day))) : "");
+      cells += TableCell(isDay ? FormatFixed6(interest.ofDay[day]) : "");
+    }
+  }
+  return TableHtml("Interest of Each Day",
+                   {"Day", "Interest Earned", "Day", "Interest Earned", "Day", "Interest Earned"},
+                   rows);
+}
+
 }  // namespace
 
 std::array<DaySpan, 3> SplitDays(std::size_t dayCount) {
@@ -43,6 +66,16 @@ std::array<DaySpan, 3> SplitDays(std::size_t dayCount) {
 ReportContent InterestReport(const AccountHeader& header, const StatementCheck& check,
                              const DailyBalances& daily, const Date& today) {
   Tags tags = StatementTags(header, check, today);
+  const StatementInterest earned = InterestOf(daily);
+  tags.insert({
+      {"^startdate^", {FormatDate(daily.start)}},
+      {"^enddate^", {FormatDate(AddDays(daily.start, LastDay(daily)))}},
+      {"^days^", {std::to_string(daily.days.size())}},
+      {"^adb^", {DollarText(earned.averageBalance)}},
+      {"^interest^", {"$" + FormatFixed6(earned.interest.total)}},
+      {"^interestofdays^", {InterestOfDaysHtml(daily, earned.interest)}},
+      {"^rule^", {InterestRule(daily.account)}},
+  });
   tags["^Rpt_Type^"] = {""};
   tags["^reporttype^"] = {daily.column == BalanceColumn::Ledger ? "Ledger" : "Collected"};
   return {std::move(tags), {SameRows(kRowMarker, DayRows(daily))}};
