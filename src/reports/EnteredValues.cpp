@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "disclosure/DisclosureCalculation.h"
-#include "disclosure/EntryLayout.h"
 #include "disclosure/EntrySequence.h"
 #include "formulas/DisclosedYield.h"
 #include "reports/HtmlText.h"
@@ -36,44 +35,59 @@ std::string DateText(const Field& date) {
   return ParseDate(date.text) ? date.text : "";
 }
 
+/// By days the distance is that between compoundings: the withdrawals divide the term evenly.
 std::string WithdrawalText(const DisclosureSetup& setup, const DisclosureEntry& entry) {
   const double periods = entry.txtWdrwlPeriods.Value();
   const double apart = entry.txtBtwnReqIntWdrwl.Value();
-  const std::string unit = setup.withdrawal == Unit::Months ? "month" : "day";
-  std::string text = FormatPlain(periods);
+  if (periods == 0) return "";
+  const std::string text = FormatPlain(periods);
   if (apart == 0) return text;
-  text += ", every ";
-  return text + (apart == 1 ? unit : FormatPlain(apart) + " " + unit + "s");
+  if (setup.withdrawal == Unit::Days) return text + "; days entered: " + FormatPlain(apart);
+  return text + (apart == 1 ? ", every month" : ", every " + FormatPlain(apart) + " months");
 }
 
-/// A column of the table of entries: when the account has it, and its cells.
+using TextOfEntry = std::string (*)(const DisclosureSetup&, const DisclosureEntry&);
+
+std::string StartText(const DisclosureSetup&, const DisclosureEntry& entry) {
+  return DateText(entry.tStartDate);
+}
+
+std::string EndText(const DisclosureSetup&, const DisclosureEntry& entry) {
+  return DateText(entry.tEndDate);
+}
+
+std::string BeginText(const DisclosureSetup&, const DisclosureEntry& entry) {
+  if (entry.txtBeginMonth.IsEmpty()) return "";
+  return CellText(entry.txtBeginMonth.text) + "-" + CellText(entry.txtBeginYear.text);
+}
+
+std::string FactorText(const DisclosureSetup&, const DisclosureEntry& entry) {
+  return CellText(entry.txtDailyRateFactor.text);
+}
+
+/// A column of the table of entries.
 struct Column {
   const char* heading;
-  bool shown;
-  std::string (*text)(const DisclosureSetup&, const DisclosureEntry&);
+  TextOfEntry text;
 };
 
-std::vector<Column> ColumnsOf(const DisclosureSetup& setup) {
-  const EntryGroups groups = GroupsFor(setup);
-  return {
-      {"Term Entered", true, TermText},
-      {"Start Date", groups.termDates,
-       [](const auto&, const auto& entry) { return DateText(entry.tStartDate); }},
-      {"End Date", groups.termDates,
-       [](const auto&, const auto& entry) { return DateText(entry.tEndDate); }},
-      {"Beginning Month and Year", groups.dateRange,
-       [](const auto&, const auto& entry) {
-         return CellText(entry.txtBeginMonth.text) + "-" + CellText(entry.txtBeginYear.text);
-       }},
-      {"Daily Rate Factor", true,
-       [](const auto&, const auto& entry) { return CellText(entry.txtDailyRateFactor.text); }},
-      {"Required Interest Withdrawals", groups.withdrawal, WithdrawalText},
-  };
-}
+constexpr Column kColumns[] = {
+    {"Term Entered", TermText},
+    {"Start Date", StartText},
+    {"End Date", EndText},
+    {"Beginning Month and Year", BeginText},
+    {"Daily Rate Factor", FactorText},
+    {"Required Interest Withdrawals", WithdrawalText},
+};
 
-std::vector<Column> ShownColumns(const DisclosureSetup& setup) {
-  std::vector<Column> columns = ColumnsOf(setup);
-  std::erase_if(columns, [](const Column& column) { return !column.shown; });
+/// The columns that hold anything: what does not apply to the account is empty in all its entries.
+std::vector<Column> UsedColumns(const DisclosureCheck& check) {
+  std::vector<Column> columns(std::begin(kColumns), std::end(kColumns));
+  std::erase_if(columns, [&check](const Column& column) {
+    return std::ranges::all_of(check.entries, [&](const DisclosureEntry& entry) {
+      return column.text(check.setup, entry).empty();
+    });
+  });
   return columns;
 }
 
@@ -99,7 +113,7 @@ std::vector<Run> RunsOf(const DisclosureCheck& check, const std::vector<Column>&
 }
 
 std::string EntriesHtml(const DisclosureCheck& check) {
-  const std::vector<Column> columns = ShownColumns(check.setup);
+  const std::vector<Column> columns = UsedColumns(check);
   std::vector<std::string> headings = {"Lines"};
   for (const Column& column : columns) headings.push_back(column.heading);
   Rows rows;
@@ -118,7 +132,7 @@ double YearDaysOf(const DisclosureCheck& check) {
 }
 
 /// "1000.00" of the row of a tier's end; blank where it has none.
-std::string EndText(const DisclosureCheck& check, int tier, bool lowEnd) {
+std::string BoundText(const DisclosureCheck& check, int tier, bool lowEnd) {
   const auto& rows = check.result->rows;
   for (std::size_t k = 0; k < rows.size(); ++k) {
     const bool isLow = IsLowEnd(static_cast<int>(k) + 1);
@@ -157,7 +171,8 @@ std::string TierTableHtml(const TierTable& table, const DisclosureCheck* check) 
                    TableCell(isLast ? "" : DollarText(tiers[k + 1].above)) +
                    TableCell(FormatRate(tiers[k].rate) + "%"));
     if (!check) continue;
-    rows.back() += TableCell(EndText(*check, tier, true)) + TableCell(EndText(*check, tier, false));
+    rows.back() +=
+        TableCell(BoundText(*check, tier, true)) + TableCell(BoundText(*check, tier, false));
   }
   return rows.empty() ? "" : TableHtml("Tiers", headings, rows);
 }

@@ -24,7 +24,9 @@ std::string_view EntityOf(char c) {
 }
 
 std::string Enclosed(std::string_view start, std::string_view text, std::string_view end) {
-  return std::string(start).append(text).append(end);
+  std::string enclosed;
+  enclosed.reserve(start.size() + text.size() + end.size());
+  return enclosed.append(start).append(text).append(end);
 }
 
 }  // namespace

@@ -9,6 +9,9 @@ namespace corvane {
 
 namespace {
 
+/// What a row of three days has room in.
+constexpr std::size_t kRowLength = 256;
+
 std::string PaddingCells() {
   return std::string(kPaddingCell).append(kPaddingCell).append(kPaddingCell);
 }
@@ -24,6 +27,7 @@ Rows DayRows(const DailyBalances& daily) {
   Rows rows;
   for (std::size_t k = 0; k < columns[0].end; ++k) {
     std::string row{kRowStart};
+    row.reserve(kRowLength);
     for (const DaySpan& column : columns) {
       const std::size_t day = column.first + k;
       row += day < column.end ? DayCells(daily, day) : PaddingCells();
@@ -43,6 +47,7 @@ std::string InterestOfDaysHtml(const DailyBalances& daily, const PeriodInterest&
   Rows rows;
   for (std::size_t k = 0; k < columns[0].end; ++k) {
     std::string& cells = rows.emplace_back();
+    cells.reserve(kRowLength);
     for (const DaySpan& column : columns) {
       const std::size_t day = column.first + k;
       const bool isDay = day < column.end;
@@ -73,12 +78,14 @@ ReportContent InterestReport(const AccountHeader& header, const StatementCheck& 
       {"^days^", {std::to_string(daily.days.size())}},
       {"^adb^", {DollarText(earned.averageBalance)}},
       {"^interest^", {"$" + FormatFixed6(earned.interest.total)}},
-      {"^interestofdays^", {InterestOfDaysHtml(daily, earned.interest)}},
       {"^rule^", {InterestRule(daily.account)}},
   });
+  tags["^interestofdays^"].text = InterestOfDaysHtml(daily, earned.interest);
   tags["^Rpt_Type^"] = {""};
   tags["^reporttype^"] = {daily.column == BalanceColumn::Ledger ? "Ledger" : "Collected"};
-  return {std::move(tags), {SameRows(kRowMarker, DayRows(daily))}};
+  ReportContent content{std::move(tags), {}};
+  content.rows.push_back(SameRows(kRowMarker, DayRows(daily)));
+  return content;
 }
 
 }  // namespace corvane

@@ -25,11 +25,16 @@ class ReportFigures : public testing::Test {
     const auto report = WriteReport(
         std::filesystem::path(CORVANE_TEMPLATE_FOLDER) / names.templateName, file, content);
     EXPECT_TRUE(report.messages.empty() && report.text) << file;
+    for (const auto& [tag, value] : content.tags) {
+      EXPECT_NE(listed_.find("`" + tag + "`"), std::string::npos) << tag << " is in no list";
+    }
   }
 
   int written_ = 0;
 
  private:
+  const std::string listed_ =
+      std::get<std::string>(ReadWholeFile(CORVANE_TESTS "../docs/templates.md"));
   const TemporaryFolder temporary_;
   const char* named_ = std::getenv("CORVANE_REPORT_FIGURES");
   const std::filesystem::path folder_ = named_ ? named_ : temporary_.Path();

@@ -8,6 +8,8 @@
 #include "platform/WebView.h"
 #include "reports/DataFolder.h"
 #include "reports/SaveName.h"
+#include "support/Clock.h"
+#include "support/Dates.h"
 #include "support/Paths.h"
 #include "support/WholeFile.h"
 #include "windows/frame/WindowRegistry.h"
@@ -48,11 +50,13 @@ void ReportWindow::BuildReport() {
   if (!report.text) view_->ShowNotice("No report was built.");
   for (const Refusal& message : report.messages) Tell(message);
   text_ = std::move(report.text);
+  foot_ = {QString::fromStdString(session().header.institution),
+           QString::fromStdString(FormatDate(Today()))};
   if (text_) view_->ShowFile(Text(output));
 }
 
 void ReportWindow::Print() {
-  if (text_ && !view_->Print()) {
+  if (text_ && !view_->Print(foot_)) {
     Tell({"The report could not be printed.", "", "Error!", MessageIcon::None});
   }
 }

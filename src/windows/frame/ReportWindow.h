@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/PrintedPages.h"
 #include "reports/ReportFile.h"
 #include "windows/frame/Form.h"
 
@@ -31,6 +32,7 @@ class ReportWindow : public Form {
   ReportNames names_;
   WebView* view_ = nullptr;
   std::optional<std::string> text_;  ///< the report as it was built
+  PageFoot foot_;                    ///< of its pages when it is printed
 };
 
 }  // namespace corvane

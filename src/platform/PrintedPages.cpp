@@ -1,0 +1,135 @@
+#include "platform/PrintedPages.h"
+
+#include <QBuffer>
+#include <QLocale>
+#include <QPainter>
+#include <QPdfDocument>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include "support/Paths.h"
+#include "support/WholeFile.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr double kMarginMillimetres = 15;
+constexpr double kFootPoints = 8;
+/// What a text of the report needs to be crisp; a printer's own 1200 would take half a gigabyte.
+constexpr double kDotsPerInch = 300;
+constexpr double kPointsPerInch = 72;
+
+/// Draws the feet of so many pages, each on a page of its own.
+QByteArray FeetOf(int pages, const QPageLayout& layout, const PageFoot& foot) {
+  QByteArray pdf;
+  QBuffer buffer(&pdf);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  writer.setPageLayout({layout.pageSize(), layout.orientation(), {}});
+  QPainter painter(&writer);
+  QFont font = painter.font();
+  font.setPointSizeF(kFootPoints);
+  painter.setFont(font);
+  painter.setPen(Qt::darkGray);
+  const QRect paper = layout.fullRectPixels(writer.resolution());
+  const QMargins margins = layout.marginsPixels(writer.resolution());
+  QRect line = paper.marginsRemoved(margins);
+  line.setTop(paper.bottom() - margins.bottom());
+  line.setBottom(paper.bottom());
+  const QString name =
+      painter.fontMetrics().elidedText(foot.institution, Qt::ElideRight, line.width() * 2 / 5);
+  for (int page = 1; page <= pages; ++page) {
+    if (page > 1) writer.newPage();
+    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft, name);
+    painter.drawText(line, Qt::AlignCenter, foot.date);
+    painter.drawText(line, Qt::AlignVCenter | Qt::AlignRight,
+                     QString("Page %1 of %2").arg(page).arg(pages));
+  }
+  painter.end();
+  return pdf;
+}
+
+void Read(QPDF& document, const QByteArray& pdf) {
+  document.processMemoryFile("report", pdf.constData(), static_cast<std::size_t>(pdf.size()));
+}
+
+/// Puts one page over another.
+void Overlay(QPDF& document, QPDFPageObjectHelper& page, QPDFPageObjectHelper& over) {
+  const QPDFObjectHandle form = document.copyForeignObject(over.getFormXObjectForPage());
+  QPDFObjectHandle resources = page.getAttribute("/Resources", true);
+  resources.mergeResources(QPDFObjectHandle::parse("<< /XObject << >> >>"));
+  int suffix = 1;
+  const std::string name = resources.getUniqueResourceName("/Foot", suffix);
+  resources.getKey("/XObject").replaceKey(name, form);
+  const auto box = page.getTrimBox().getArrayAsRectangle();
+  const std::string placed = page.placeFormXObject(form, name, box);
+  page.addPageContents(document.newStream("q\n"), true);
+  page.addPageContents(document.newStream("\nQ\n" + placed), false);
+}
+
+QByteArray Written(QPDF& document) {
+  QPDFWriter writer(document);
+  writer.setOutputMemory();
+  writer.write();
+  const auto buffer = writer.getBufferSharedPointer();
+  return {reinterpret_cast<const char*>(buffer->getBuffer()),
+          static_cast<qsizetype>(buffer->getSize())};
+}
+
+bool PaintPages(QPdfDocument& document, QPrinter& printer) {
+  printer.setFullPage(true);
+  QPainter painter(&printer);
+  if (!painter.isActive()) return false;
+  const int first = std::max(1, printer.fromPage());
+  const int last = printer.toPage() > 0 ? printer.toPage() : document.pageCount();
+  for (int page = first; page <= std::min(last, document.pageCount()); ++page) {
+    if (page > first && !printer.newPage()) return false;
+    const QSizeF points = document.pagePointSize(page - 1);
+    const QImage picture =
+        document.render(page - 1, (points * (kDotsPerInch / kPointsPerInch)).toSize());
+    painter.drawImage(QRectF(painter.viewport()), picture);
+  }
+  return painter.end();
+}
+
+}  // namespace
+
+void PreparePages(QPrinter& printer) {
+  const bool isLetter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+  printer.setPageSize(QPageSize(isLetter ? QPageSize::Letter : QPageSize::A4));
+  printer.setPageMargins(
+      {kMarginMillimetres, kMarginMillimetres, kMarginMillimetres, kMarginMillimetres},
+      QPageLayout::Millimeter);
+}
+
+QByteArray WithFeet(const QByteArray& pdf, const QPageLayout& layout, const PageFoot& foot) try {
+  QPDF document;
+  Read(document, pdf);
+  auto pages = QPDFPageDocumentHelper(document).getAllPages();
+  const QByteArray drawn = FeetOf(static_cast<int>(pages.size()), layout, foot);
+  QPDF feet;
+  Read(feet, drawn);
+  auto over = QPDFPageDocumentHelper(feet).getAllPages();
+  for (std::size_t k = 0; k < pages.size(); ++k) Overlay(document, pages[k], over.at(k));
+  return Written(document);
+} catch (const std::exception&) {
+  return {};
+}
+
+bool PrintPages(const QByteArray& pdf, QPrinter& printer) {
+  if (printer.outputFormat() == QPrinter::PdfFormat) {
+    return !WriteWholeFile(PathOf(printer.outputFileName().toStdString()), pdf.toStdString());
+  }
+  QByteArray data = pdf;
+  QBuffer buffer(&data);
+  QPdfDocument document;
+  buffer.open(QIODevice::ReadOnly);
+  document.load(&buffer);
+  return document.status() == QPdfDocument::Status::Ready && PaintPages(document, printer);
+}
+
+}  // namespace corvane

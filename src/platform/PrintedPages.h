@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class QPageLayout;
+class QPrinter;
+
+namespace corvane {
+
+/// What stands at the foot of every printed page, beside its number.
+struct PageFoot {
+  QString institution;
+  QString date;
+};
+
+/// The paper of the locale (Letter in the United States, else A4) with margins of 15 mm.
+void PreparePages(QPrinter& printer);
+
+/// A PDF document with institution, date and "Page 1 of 2" in the lower margin of every page, as
+/// text that can be searched. Empty for what is no such document.
+QByteArray WithFeet(const QByteArray& pdf, const QPageLayout& layout, const PageFoot& foot);
+
+/// Prints a PDF document: into the file where the printer prints to a PDF file, so that its text
+/// stays text, else as pictures of the pages in its range. False when it fails.
+bool PrintPages(const QByteArray& pdf, QPrinter& printer);
+
+}  // namespace corvane
