@@ -69,11 +69,11 @@ std::string FigureText(const NoteFigure& figure) {
 
 }  // namespace
 
-std::optional<NoteFigure> FigureApart(std::string place, double computed, double other,
-                                      double disclosed, double least) {
+std::optional<NoteFigure> FigureApart(double computed, double other, double disclosed,
+                                      double least) {
   const double rounded = RoundToCents(other);
   if (std::fabs(rounded - computed) < least - kBinaryNoise) return std::nullopt;
-  NoteFigure figure{std::move(place), computed, rounded, std::nullopt};
+  NoteFigure figure{"", computed, rounded, std::nullopt};
   const Verdict verdict = CheckApy(disclosed, rounded);
   if (verdict != CheckApy(disclosed, computed)) figure.turnsTo = verdict;
   return figure;

@@ -42,8 +42,9 @@ struct Note {
 using Notes = std::vector<Note>;
 
 /// The figure of a note, where it is at least `least` percentage points away from the one computed.
-std::optional<NoteFigure> FigureApart(std::string place, double computed, double other,
-                                      double disclosed, double least);
+/// All in percent; it has no place yet.
+std::optional<NoteFigure> FigureApart(double computed, double other, double disclosed,
+                                      double least);
 
 /// The note as plain sentences: "... when it compounds every 182 days: 5.06% beside 5.13%. This
 /// would be OK."

@@ -27,7 +27,9 @@ std::optional<NoteFigure> FigureOfRow(const DisclosureCheck& check, std::size_t 
                                       std::optional<double> other, double least) {
   const ResultRow& row = check.result->rows.at(k);
   if (!row.apy || !other) return std::nullopt;
-  return FigureApart(PlaceOfRow(check, k), *row.apy, *other, row.disclosedApy, least);
+  auto figure = FigureApart(*row.apy, *other, row.disclosedApy, least);
+  if (figure) figure->place = PlaceOfRow(check, k);
+  return figure;
 }
 
 // Notes by another reading of the same formulas.

@@ -24,7 +24,7 @@ constexpr double kDotsPerInch = 300;
 constexpr double kPointsPerInch = 72;
 
 /// Draws the feet of so many pages, each on a page of its own.
-QByteArray FeetOf(int pages, const QPageLayout& layout, const PageFoot& foot) {
+QByteArray FeetOf(int pages, const QPageLayout& layout, const PrintedLabels& labels) {
   QByteArray pdf;
   QBuffer buffer(&pdf);
   buffer.open(QIODevice::WriteOnly);
@@ -41,11 +41,11 @@ QByteArray FeetOf(int pages, const QPageLayout& layout, const PageFoot& foot) {
   line.setTop(paper.bottom() - margins.bottom());
   line.setBottom(paper.bottom());
   const QString name =
-      painter.fontMetrics().elidedText(foot.institution, Qt::ElideRight, line.width() * 2 / 5);
+      painter.fontMetrics().elidedText(labels.institution, Qt::ElideRight, line.width() * 2 / 5);
   for (int page = 1; page <= pages; ++page) {
     if (page > 1) writer.newPage();
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft, name);
-    painter.drawText(line, Qt::AlignCenter, foot.date);
+    painter.drawText(line, Qt::AlignCenter, labels.date);
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignRight,
                      QString("Page %1 of %2").arg(page).arg(pages));
   }
@@ -71,6 +71,15 @@ void Overlay(QPDF& document, QPDFPageObjectHelper& page, QPDFPageObjectHelper& o
   page.addPageContents(document.newStream("\nQ\n" + placed), false);
 }
 
+void SetTitle(QPDF& document, const QString& title) {
+  QPDFObjectHandle trailer = document.getTrailer();
+  if (!trailer.hasKey("/Info")) {
+    trailer.replaceKey("/Info", document.makeIndirectObject(QPDFObjectHandle::newDictionary()));
+  }
+  trailer.getKey("/Info").replaceKey("/Title",
+                                     QPDFObjectHandle::newUnicodeString(title.toStdString()));
+}
+
 QByteArray Written(QPDF& document) {
   QPDFWriter writer(document);
   writer.setOutputMemory();
@@ -78,6 +87,16 @@ QByteArray Written(QPDF& document) {
   const auto buffer = writer.getBufferSharedPointer();
   return {reinterpret_cast<const char*>(buffer->getBuffer()),
           static_cast<qsizetype>(buffer->getSize())};
+}
+
+/// A page on white paper: what a page leaves open would be seen through at the edges of its parts.
+QImage PictureOf(QPdfDocument& document, int page) {
+  const QSizeF points = document.pagePointSize(page);
+  const QImage drawn = document.render(page, (points * (kDotsPerInch / kPointsPerInch)).toSize());
+  QImage picture(drawn.size(), QImage::Format_RGB32);
+  picture.fill(Qt::white);
+  QPainter(&picture).drawImage(0, 0, drawn);
+  return picture;
 }
 
 bool PaintPages(QPdfDocument& document, QPrinter& printer) {
@@ -88,10 +107,7 @@ bool PaintPages(QPdfDocument& document, QPrinter& printer) {
   const int last = printer.toPage() > 0 ? printer.toPage() : document.pageCount();
   for (int page = first; page <= std::min(last, document.pageCount()); ++page) {
     if (page > first && !printer.newPage()) return false;
-    const QSizeF points = document.pagePointSize(page - 1);
-    const QImage picture =
-        document.render(page - 1, (points * (kDotsPerInch / kPointsPerInch)).toSize());
-    painter.drawImage(QRectF(painter.viewport()), picture);
+    painter.drawImage(QRectF(painter.viewport()), PictureOf(document, page - 1));
   }
   return painter.end();
 }
@@ -106,15 +122,17 @@ void PreparePages(QPrinter& printer) {
       QPageLayout::Millimeter);
 }
 
-QByteArray WithFeet(const QByteArray& pdf, const QPageLayout& layout, const PageFoot& foot) try {
+QByteArray WithLabels(const QByteArray& pdf, const QPageLayout& layout,
+                      const PrintedLabels& labels) try {
   QPDF document;
   Read(document, pdf);
   auto pages = QPDFPageDocumentHelper(document).getAllPages();
-  const QByteArray drawn = FeetOf(static_cast<int>(pages.size()), layout, foot);
+  const QByteArray drawn = FeetOf(static_cast<int>(pages.size()), layout, labels);
   QPDF feet;
   Read(feet, drawn);
   auto over = QPDFPageDocumentHelper(feet).getAllPages();
   for (std::size_t k = 0; k < pages.size(); ++k) Overlay(document, pages[k], over.at(k));
+  SetTitle(document, labels.title);
   return Written(document);
 } catch (const std::exception&) {
   return {};

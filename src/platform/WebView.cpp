@@ -101,15 +101,15 @@ struct WebView::Browser {
   }
 
   /// Starts to print, which ends the wait in the box. An engine whose helper is gone ends it too.
-  void Print(QPrinter& printer, const PageFoot& foot, QDialog& box) {
+  void Print(QPrinter& printer, const PrintedLabels& labels, QDialog& box) {
     if (page.renderProcessPid() == 0) return box.done(QDialog::Rejected);
     connect(&page, &QWebEnginePage::renderProcessTerminated, &box,
             [&box] { box.done(QDialog::Rejected); });
     // Without the box the printer is gone too.
-    const auto deliver = [&printer, foot,
+    const auto deliver = [&printer, labels,
                           waiting = QPointer<QDialog>(&box)](const QByteArray& pdf) {
       if (!waiting) return;
-      const QByteArray pages = WithFeet(pdf, printer.pageLayout(), foot);
+      const QByteArray pages = WithLabels(pdf, printer.pageLayout(), labels);
       const bool success = !pages.isEmpty() && PrintPages(pages, printer);
       waiting->done(success ? QDialog::Accepted : QDialog::Rejected);
     };
@@ -179,15 +179,15 @@ void WebView::LoadAgain() {
   emit Shown(false);
 }
 
-bool WebView::Print(const PageFoot& foot) {
+bool WebView::Print(const PrintedLabels& labels) {
   const auto printing = browser_;
   if (!printing) return false;
   QPrinter printer(QPrinter::HighResolution);
   PreparePages(printer);
-  printer.setDocName(printing->page.title());
+  printer.setDocName(labels.title);
   if (!Accepts(printer, window())) return true;
   PrintingBox box(window());
-  QTimer::singleShot(0, &box, [&] { printing->Print(printer, foot, box); });
+  QTimer::singleShot(0, &box, [&] { printing->Print(printer, labels, box); });
   return box.exec() == QDialog::Accepted;
 }
 

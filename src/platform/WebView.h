@@ -28,8 +28,8 @@ class WebView : public QWidget {
   void ShowNotice(const QString& text);
 
   /// Prints the page after the system's print dialog, and keeps all input away until it is printed.
-  /// The foot stands on every page. False when no page is shown and when the print fails.
-  bool Print(const PageFoot& foot);
+  /// False when no page is shown and when the print fails.
+  bool Print(const PrintedLabels& labels);
 
  signals:
   /// The page stands on the screen, or could not be loaded.

@@ -61,6 +61,10 @@ std::string PlainCell(std::string_view text) {
   return Enclosed("<TD>", text, "</TD>");
 }
 
+void AddPlainCell(std::string& row, std::string_view text) {
+  row.append("<TD>").append(text).append("</TD>");
+}
+
 std::string BlackCell(std::string_view text) {
   return Enclosed("<TD><Font Color=\"#000000\">", text, "</TD>");
 }
@@ -75,6 +79,10 @@ std::string BoldRedCell(std::string_view text) {
 
 std::string TableCell(std::string_view text) {
   return Enclosed("<td>", text, "</td>");
+}
+
+void AddTableCell(std::string& row, std::string_view text) {
+  row.append("<td>").append(text).append("</td>");
 }
 
 std::string TableHtml(std::string_view caption, const std::vector<std::string>& headings,

@@ -12,14 +12,11 @@ namespace {
 /// What a row of three days has room in.
 constexpr std::size_t kRowLength = 256;
 
-std::string PaddingCells() {
-  return std::string(kPaddingCell).append(kPaddingCell).append(kPaddingCell);
-}
-
-std::string DayCells(const DailyBalances& daily, std::size_t day) {
+void AddDayCells(std::string& row, const DailyBalances& daily, std::size_t day) {
   const DayEntry& entry = daily.days.at(day);
-  return PlainCell(DayLabel(daily, day)) + PlainCell(FormatDollars(NumericValue(entry.balance))) +
-         PlainCell(FormatPlain(NumericValue(entry.rate)) + "%");
+  AddPlainCell(row, DayLabel(daily, day));
+  AddPlainCell(row, FormatDollars(NumericValue(entry.balance)));
+  AddPlainCell(row, FormatPlain(NumericValue(entry.rate)) + "%");
 }
 
 Rows DayRows(const DailyBalances& daily) {
@@ -30,7 +27,11 @@ Rows DayRows(const DailyBalances& daily) {
     row.reserve(kRowLength);
     for (const DaySpan& column : columns) {
       const std::size_t day = column.first + k;
-      row += day < column.end ? DayCells(daily, day) : PaddingCells();
+      if (day < column.end) {
+        AddDayCells(row, daily, day);
+      } else {
+        row.append(kPaddingCell).append(kPaddingCell).append(kPaddingCell);
+      }
     }
     rows.push_back(std::move(row));
   }
@@ -51,8 +52,8 @@ std::string InterestOfDaysHtml(const DailyBalances& daily, const PeriodInterest&
     for (const DaySpan& column : columns) {
       const std::size_t day = column.first + k;
       const bool isDay = day < column.end;
-      cells += TableCell(isDay ? FormatDate(AddDays(daily.start, static_cast<int>(day))) : "");
-      cells += TableCell(isDay ? FormatFixed6(interest.ofDay[day]) : "");
+      AddTableCell(cells, isDay ? FormatDate(AddDays(daily.start, static_cast<int>(day))) : "");
+      AddTableCell(cells, isDay ? FormatFixed6(interest.ofDay[day]) : "");
     }
   }
   return TableHtml("Interest of Each Day",

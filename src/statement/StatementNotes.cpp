@@ -13,7 +13,7 @@ bool HandsNoInterestBack(const StatementEntry& entry) {
 std::optional<NoteFigure> ExactFigure(const StatementCheck& check) {
   const Field& interest = check.entry.txtIntAmt;
   if (!interest.workedOut || interest.IsEmpty()) return std::nullopt;
-  return FigureApart("", check.result->apy, ApyOf(check, check.handed.amount),
+  return FigureApart(check.result->apy, ApyOf(check, check.handed.amount),
                      check.entry.txtDClApy.Value(), kLeastOfCents);
 }
 

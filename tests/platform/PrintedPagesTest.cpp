@@ -18,7 +18,6 @@ QByteArray TwoPages(const QPageLayout& layout) {
   QBuffer buffer(&pdf);
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
-  writer.setTitle("Summary");
   writer.setPageLayout(layout);
   QPainter painter(&writer);
   painter.drawText(QPoint(100, 1000), "first");
@@ -32,7 +31,7 @@ std::string TextOf(const QPdfDocument& document, int page) {
   return const_cast<QPdfDocument&>(document).getAllText(page).text().simplified().toStdString();
 }
 
-TEST(PrintedPages, CarryTheirFootAsTextAndKeepTheirOwn) {
+TEST(PrintedPages, CarryTitleAndFootAsTextAndKeepTheirOwn) {
   for (const auto paper : {QPageSize::Letter, QPageSize::A4}) {
     QPrinter printer;
     PreparePages(printer);
@@ -40,8 +39,8 @@ TEST(PrintedPages, CarryTheirFootAsTextAndKeepTheirOwn) {
     EXPECT_EQ(printer.pageLayout().margins(QPageLayout::Millimeter), QMarginsF(15, 15, 15, 15));
     const QTemporaryDir folder;
     printer.setOutputFileName(folder.filePath("report.pdf"));
-    const QByteArray pages = WithFeet(TwoPages(printer.pageLayout()), printer.pageLayout(),
-                                      {"First National Bank", "03-07-2024"});
+    const QByteArray pages = WithLabels(TwoPages(printer.pageLayout()), printer.pageLayout(),
+                                        {"Summary", "First National Bank", "03-07-2024"});
     ASSERT_TRUE(PrintPages(pages, printer));
     QPdfDocument document;
     document.load(folder.filePath("report.pdf"));
@@ -50,7 +49,7 @@ TEST(PrintedPages, CarryTheirFootAsTextAndKeepTheirOwn) {
     EXPECT_EQ(TextOf(document, 0), "first First National Bank 03-07-2024 Page 1 of 2");
     EXPECT_EQ(TextOf(document, 1), "second First National Bank 03-07-2024 Page 2 of 2");
   }
-  EXPECT_TRUE(WithFeet("no document", {}, {}).isEmpty());
+  EXPECT_TRUE(WithLabels("no document", {}, {}).isEmpty());
 }
 
 }  // namespace

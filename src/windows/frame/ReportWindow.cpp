@@ -50,13 +50,13 @@ void ReportWindow::BuildReport() {
   if (!report.text) view_->ShowNotice("No report was built.");
   for (const Refusal& message : report.messages) Tell(message);
   text_ = std::move(report.text);
-  foot_ = {QString::fromStdString(session().header.institution),
-           QString::fromStdString(FormatDate(Today()))};
+  labels_ = {windowTitle(), QString::fromStdString(session().header.institution),
+             QString::fromStdString(FormatDate(Today()))};
   if (text_) view_->ShowFile(Text(output));
 }
 
 void ReportWindow::Print() {
-  if (text_ && !view_->Print(foot_)) {
+  if (text_ && !view_->Print(labels_)) {
     Tell({"The report could not be printed.", "", "Error!", MessageIcon::None});
   }
 }

@@ -32,7 +32,7 @@ class ReportWindow : public Form {
   ReportNames names_;
   WebView* view_ = nullptr;
   std::optional<std::string> text_;  ///< the report as it was built
-  PageFoot foot_;                    ///< of its pages when it is printed
+  PrintedLabels labels_;             ///< of the report when it is printed
 };
 
 }  // namespace corvane
