@@ -140,6 +140,11 @@ void WebView::ShowFile(const QString& path) {
   Load();
 }
 
+void WebView::SetZoom(int percent) {
+  zoom_ = percent;
+  if (browser_) browser_->page.setZoomFactor(percent / 100.0);
+}
+
 void WebView::ShowNotice(const QString& text) {
   DropBrowser();
   notice_->setText(text);
@@ -151,6 +156,8 @@ void WebView::Load() {
   notice_->hide();
   browser_ = std::make_shared<Browser>();
   layout()->addWidget(&browser_->view);
+  setFocusProxy(&browser_->view);
+  SetZoom(zoom_);
   connect(&browser_->page, &QWebEnginePage::loadFinished, this, &WebView::Loaded);
   connect(&browser_->page, &QWebEnginePage::renderProcessTerminated, this,
           [this] { Loaded(false); });
@@ -165,6 +172,7 @@ void WebView::DropBrowser() {
 
 void WebView::Loaded(bool success) {
   if (success) {
+    SetZoom(zoom_);
     emit Shown(true);
     return;
   }
@@ -192,6 +200,8 @@ bool WebView::Print(const PrintedLabels& labels) {
 }
 
 void PrepareWebView() {
+  // On Linux the engine tells screen readers what a page holds only where it is asked to.
+  qputenv("QTWEBENGINE_ENABLE_LINUX_ACCESSIBILITY", "1");
 #ifdef Q_OS_UNIX
   if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 #endif

@@ -78,6 +78,7 @@ void DisclosureEntryWindow::BindButtons() {
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdAcctInfo->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdNext, ui_->cmdCalculateResult});
   BindCommonMenus(kHelpContext);
 }
 

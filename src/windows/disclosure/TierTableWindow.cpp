@@ -28,6 +28,7 @@ TierTableWindow::TierTableWindow(WindowRegistry& registry)
   OnClick(ui_->cmdBack, [this] { routes().BackFromTierTable(ReadBoxes()); });
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdCalculate});
   BindCommonMenus(kHelpContext);
 }
 

@@ -19,6 +19,10 @@ QPalette ReadableWhenDisabled(QPalette palette) {
   return palette;
 }
 
+bool IsEnter(const QKeyEvent& press) {
+  return press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
+}
+
 bool TypesCharacter(const QKeyEvent& press) {
   return !press.text().isEmpty() && press.text().front().isPrint();
 }
@@ -44,12 +48,33 @@ Routes& Form::routes() {
 void Form::Load() {
   for (auto* button : findChildren<QAbstractButton*>()) button->installEventFilter(this);
   for (auto* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
+  BindKeys();
+  captions_.emplace(*this);
+  Form_Load();
+  captions_->Name();
+}
+
+void Form::BindKeys() {
   if (auto* bar = findChild<QMenuBar*>()) {
     bar->installEventFilter(this);
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, bar,
             [bar] { bar->setActiveAction(bar->actions().front()); });
   }
-  Form_Load();
+  if (role_ == Role::Main) return;
+  auto* escape = new QShortcut(Qt::Key_Escape, this);
+  escape->setAutoRepeat(false);
+  connect(escape, &QShortcut::activated, this, [this] { close(); });
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+  // A key held down would press again in the window that opens, or whatever was refused.
+  if (IsEnter(*event) && (event->isAutoRepeat() || enter_.Press())) return;
+  QMainWindow::keyPressEvent(event);
+}
+
+bool Form::focusNextPrevChild(bool next) {
+  LetTabEnterAtChosenOptions(*this);
+  return QMainWindow::focusNextPrevChild(next);
 }
 
 void Form::Tell(const Refusal& refusal) {
@@ -142,9 +167,9 @@ bool Form::PressControl(const QKeySequence& accessKey) {
 }
 
 bool Form::RefusesNumericKey(QLineEdit* field, const QKeyEvent& press, const NumericRule& rule) {
-  if (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter) {
-    if (rule.enterMovesOn) focusNextPrevChild(true);
-    return true;
+  if (IsEnter(press)) {
+    if (rule.enterMovesOn && !press.isAutoRepeat()) focusNextPrevChild(true);
+    return rule.enterMovesOn;
   }
   if (!TypesCharacter(press)) return false;
   const QString text = press.text();
@@ -181,6 +206,7 @@ void Form::HoldFocus(QWidget* field) {
 
 void Form::MoveFocus(QWidget* now) {
   if (now == focused_) return;
+  if (captions_) captions_->Name();
   const QPointer<QWidget> left = focused_;
   focused_ = now;
   if (left) RaiseLostFocus(left, now->objectName());
@@ -215,10 +241,10 @@ void Form::ShowHelpTopic(int context) {
 void Form::BindHelp(int context) {
   // Help changes nothing in the form, so that the field which has the focus is not left for it.
   const auto show = [this, context] { ShowHelpTopic(context); };
-  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, show);
-  if (auto* item = findChild<QAction*>("mnuHelpTopics")) {
-    connect(item, &QAction::triggered, this, show);
-  }
+  auto* item = findChild<QAction*>("mnuHelpTopics");
+  if (!item) addAction(item = new QAction(this));
+  item->setShortcut(QKeySequence::HelpContents);
+  connect(item, &QAction::triggered, this, show);
 }
 
 void Form::BindCommonMenus(int helpContext) {

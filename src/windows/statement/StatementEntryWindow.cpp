@@ -62,6 +62,7 @@ void StatementEntryWindow::BindButtons() {
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdNewAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdCalculate});
   BindCommonMenus(kHelpContext);
 }
 
