@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 #include "support/Rounding.h"
 
@@ -71,6 +72,18 @@ std::string_view Trim(std::string_view text) {
   const auto first = text.find_first_not_of(kBlanks);
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::string WithKeyboardSigns(std::string_view text) {
+  constexpr std::pair<std::string_view, std::string_view> kSigns[] = {
+      {"\u00a0", " "}, {"\u2007", " "}, {"\u2009", " "}, {"\u202f", " "}, {"\u2212", "-"}};
+  std::string plain(text);
+  for (const auto& [sign, key] : kSigns) {
+    for (auto at = plain.find(sign); at != plain.npos; at = plain.find(sign, at)) {
+      plain.replace(at, sign.size(), key);
+    }
+  }
+  return plain;
 }
 
 bool IsNumeric(std::string_view text) {

@@ -149,6 +149,9 @@ class Walk : public WindowTest {
          Keys(text);
        })},
       {"key", Each([this](auto& name, auto&) { Press(name); })},
+      {"copy", Each([](QString text, auto&) {
+         QGuiApplication::clipboard()->setText(text.replace("\\n", "\n").replace("\\t", "\t"));
+       })},
       {"menu", Each([this](auto& item, auto&) { Menu(item); })},
       {"close", Each([this](auto& name, auto&) {
          EXPECT_EQ(Front()->objectName(), name) << "is not in front";

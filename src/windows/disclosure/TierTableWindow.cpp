@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "account/SlipNotice.h"
 #include "ui_TierTableWindow.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -43,6 +44,7 @@ void TierTableWindow::BindRow(int tier) {
   BindNumeric(rate, {.decimals = 4, .kind = "int"});
   SelectTextOnFocus(rate);
   connect(rate, &QLineEdit::textEdited, this, [this] { rateEdited_ = true; });
+  AskOnLeaving(rate, [this, tier] { return TierRateNotice(ReadBoxes(), tier); });
   OnLostFocus(rate, [this, tier](const QString& next) { txtInt_LostFocus(tier, next); });
   if (tier == kMostTiers) return;
   auto* bound = Box("txt_bne", tier);

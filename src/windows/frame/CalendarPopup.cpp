@@ -201,4 +201,8 @@ bool CalendarPopup::eventFilter(QObject* watched, QEvent* event) {
   return Form::eventFilter(watched, event);
 }
 
+QString CalendarTitle(bool start) {
+  return QString(start ? "Start Date" : "End Date") + " - Double click for Date";
+}
+
 }  // namespace corvane

@@ -48,4 +48,7 @@ class CalendarPopup : public Form {
   bool dateChosen_ = false;
 };
 
+/// The title of the calendar that asks for the start or for the end date.
+QString CalendarTitle(bool start);
+
 }  // namespace corvane

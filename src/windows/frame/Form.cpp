@@ -5,6 +5,8 @@
 #include "account/NumericEntry.h"
 #include "platform/MessageBox.h"
 #include "support/NumberText.h"
+#include "windows/frame/DateKeys.h"
+#include "windows/frame/PasteFilter.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -25,6 +27,13 @@ bool IsEnter(const QKeyEvent& press) {
 
 bool TypesCharacter(const QKeyEvent& press) {
   return !press.text().isEmpty() && press.text().front().isPrint();
+}
+
+TypedInto PlaceIn(const QLineEdit* field) {
+  const bool selected = field->hasSelectedText();
+  return {field->text().toStdU16String(),
+          selected ? field->selectionStart() : field->cursorPosition(),
+          static_cast<int>(field->selectedText().size())};
 }
 
 }  // namespace
@@ -81,7 +90,13 @@ void Form::Tell(const Refusal& refusal) {
   const bool warns = refusal.icon == MessageIcon::Exclamation;
   ShowMessage(this, QString::fromStdString(refusal.text), QString::fromStdString(refusal.title),
               warns ? QMessageBox::Warning : QMessageBox::NoIcon);
+  if (refusal.field.empty()) return;  // which would find any part that has no name
   if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
+}
+
+void Form::ShowHint(const std::string& text) {
+  const QWidget* at = focused_ ? focused_.data() : this;
+  QToolTip::showText(at->mapToGlobal(at->rect().bottomLeft()), QString::fromStdString(text));
 }
 
 void Form::FocusField(QWidget* field) {
@@ -120,6 +135,19 @@ void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
   field->setAttribute(Qt::WA_InputMethodEnabled, false);
   connect(field, &QLineEdit::textChanged, this,
           [this, field, rule] { NumericChange(field, rule); });
+  new PasteFilter(field,
+                  [this, field, rule](const QString& text) { PasteNumber(field, rule, text); });
+}
+
+void Form::BindDate(QLineEdit* field) {
+  new DateKeys(field, [this](const std::string& refusal) { ShowHint(refusal); });
+}
+
+void Form::AskOnLeaving(QLineEdit* field, std::function<std::optional<std::string>()> notice) {
+  OnLostFocus(field, [this, notice, asked = std::optional<std::string>()](const QString&) mutable {
+    const auto last = std::exchange(asked, notice());
+    if (asked && asked != last) ShowHint(*asked);
+  });
 }
 
 void Form::SelectTextOnFocus(QLineEdit* field, int characters) {
@@ -156,6 +184,13 @@ void Form::NumericChange(QLineEdit* field, const NumericRule& rule) {
   if (limited.message) Tell(*limited.message);
 }
 
+void Form::PasteNumber(QLineEdit* field, const NumericRule& rule, const QString& text) {
+  const auto number = PastedNumber(PlaceIn(field), text.toStdString(), rule.kind);
+  const bool hasSigns = number && number->find_first_of("-.") != number->npos;
+  if (!number || (rule.digitsOnly && hasSigns)) return ShowHint(kNumberNotPasted);
+  field->insert(QString::fromStdString(*number));
+}
+
 bool Form::PressControl(const QKeySequence& accessKey) {
   for (auto* button : findChildren<QAbstractButton*>()) {
     if (button->shortcut() != accessKey || !button->isVisible() || !button->isEnabled()) continue;
@@ -174,9 +209,7 @@ bool Form::RefusesNumericKey(QLineEdit* field, const QKeyEvent& press, const Num
   if (!TypesCharacter(press)) return false;
   const QString text = press.text();
   if (rule.digitsOnly) return text < "0" || text > "9";
-  return !FilterNumericKey(text.toUcs4().front(),
-                           {field->text().toStdU16String(), field->selectionStart(),
-                            static_cast<int>(field->selectedText().size())});
+  return !FilterNumericKey(text.toUcs4().front(), PlaceIn(field));
 }
 
 bool Form::RefusesKey(QLineEdit* field, const QKeyEvent& press) {

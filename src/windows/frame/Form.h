@@ -67,6 +67,9 @@ class Form : public QMainWindow {
   /// Shows the refusal's message, then puts the focus on its field with the text selected.
   void Tell(const Refusal& refusal);
 
+  /// Says what happened or is doubtful without stopping the person.
+  void ShowHint(const std::string& text);
+
   /// Puts the focus on a field and selects its text.
   void FocusField(QWidget* field);
 
@@ -102,6 +105,11 @@ class Form : public QMainWindow {
   /// Rewrites the field "######0.00" when it loses the focus.
   void RewriteOnLeaving(QLineEdit* field);
 
+  /// Lets a masked date field understand separators and copied dates.
+  void BindDate(QLineEdit* field);
+  /// Asks, when the field is left, what its text looks like a slip for; not twice the same.
+  void AskOnLeaving(QLineEdit* field, std::function<std::optional<std::string>()> notice);
+
   /// Keeps a text as it is typed.
   void BindText(QLineEdit* field, std::string& text);
 
@@ -128,6 +136,7 @@ class Form : public QMainWindow {
   bool TakeFocus(QAbstractButton* button);
   bool CommitFor(QAction* item);
   void NumericChange(QLineEdit* field, const NumericRule& rule);
+  void PasteNumber(QLineEdit* field, const NumericRule& rule, const QString& text);
   bool PressControl(const QKeySequence& accessKey);
   bool RefusesKey(QLineEdit* field, const QKeyEvent& press);
   bool RefusesNumericKey(QLineEdit* field, const QKeyEvent& press, const NumericRule& rule);
