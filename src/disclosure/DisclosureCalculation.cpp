@@ -40,12 +40,12 @@ ResultRow RowOf(const DisclosureEntry& entry, int number, const Yield& yield) {
 }
 
 /// A regular account, or the completed tiers by method A.
-Result ComputeEach(const DisclosureCheck& check) {
+Result ComputeEach(const DisclosureCheck& check, const AccountTerms& terms) {
   DisclosureResult result;
   int number = 0;
   for (const DisclosureEntry& entry : CompletedEntries(check)) {
     const Deposit deposit = DepositOf(entry);
-    const auto yield = RegularYield(TermsOf(check.setup), deposit);
+    const auto yield = RegularYield(terms, deposit);
     if (const auto failure = FailureOf(yield)) return *failure;
     result.rows.push_back(RowOf(entry, ++number, std::get<Yield>(yield)));
     result.interest = result.rows.back().interest;
@@ -69,12 +69,10 @@ ResultRow PeriodRow(const DisclosureCheck& check, int number, double interest) {
 }
 
 /// The completed periods of a stepped account, anew.
-Result ComputePeriods(const DisclosureCheck& check) {
-  std::vector<Deposit> periods;
-  for (const DisclosureEntry& entry : CompletedEntries(check)) {
-    periods.push_back(DepositOf(entry));
-  }
-  const auto computed = SteppedYieldOf(TermsOf(check.setup), periods.front().balance, periods);
+Result ComputePeriods(const DisclosureCheck& check, const AccountTerms& terms) {
+  const std::vector<Deposit> periods = CompletedDeposits(check);
+  if (periods.empty()) return Failure::NotComputable;
+  const auto computed = SteppedYieldOf(terms, periods.front().balance, periods);
   if (const auto failure = FailureOf(computed)) return *failure;
   const auto& [interest, whole] = std::get<SteppedYield>(computed);
   DisclosureResult result{{}, whole.interest, periods.back().factorDays};
@@ -90,13 +88,13 @@ Result ComputePeriods(const DisclosureCheck& check) {
 
 /// The completed tier ends by method B. Term, factor and withdrawals were typed with the first
 /// entry and stand in all.
-Result ComputeTierEnds(const DisclosureCheck& check) {
+Result ComputeTierEnds(const DisclosureCheck& check, const AccountTerms& terms) {
   const std::vector<Tier> tiers = TiersOf(check.tiers);
   DisclosureResult result;
   int number = 0;
   for (const DisclosureEntry& entry : CompletedEntries(check)) {
     const Deposit deposit = DepositOf(entry);
-    const auto yield = TieredYield(TermsOf(check.setup), tiers, deposit);
+    const auto yield = TieredYield(terms, tiers, deposit);
     if (const auto failure = FailureOf(yield)) return *failure;
     const int tier = TierOfEntry(++number);
     ResultRow row = RowOf(entry, tier, std::get<Yield>(yield));
@@ -109,13 +107,21 @@ Result ComputeTierEnds(const DisclosureCheck& check) {
   return result;
 }
 
-Result Compute(const DisclosureCheck& check) {
-  if (check.setup.kind == AccountKind::Stepped) return ComputePeriods(check);
-  if (check.setup.kind == AccountKind::TierB) return ComputeTierEnds(check);
-  return ComputeEach(check);
+}  // namespace
+
+std::vector<Deposit> CompletedDeposits(const DisclosureCheck& check) {
+  std::vector<Deposit> deposits;
+  for (int k = 0; k < check.completed; ++k) {
+    deposits.push_back(DepositOf(check.entries.at(static_cast<std::size_t>(k))));
+  }
+  return deposits;
 }
 
-}  // namespace
+Outcome<DisclosureResult> ComputeResult(const DisclosureCheck& check, const AccountTerms& terms) {
+  if (check.setup.kind == AccountKind::Stepped) return ComputePeriods(check, terms);
+  if (check.setup.kind == AccountKind::TierB) return ComputeTierEnds(check, terms);
+  return ComputeEach(check, terms);
+}
 
 AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry) {
   check.result.reset();
@@ -125,7 +131,7 @@ AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry
   KeepEntry(check, entry);
   ++check.completed;
   if (check.setup.IsTiered() && check.completed < EntryCount(check)) return {};
-  const Result computed = Compute(check);
+  const Result computed = ComputeResult(check, TermsOf(check.setup));
   if (const auto failure = FailureOf(computed)) {
     --check.completed;
     return {RefusalOf(*failure)};
@@ -136,7 +142,7 @@ AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry
 
 std::optional<DisclosureResult> ResultSoFar(const DisclosureCheck& check) {
   if (check.completed == 0) return std::nullopt;
-  Result computed = Compute(check);
+  Result computed = ComputeResult(check, TermsOf(check.setup));
   if (FailureOf(computed)) return std::nullopt;
   return std::get<DisclosureResult>(std::move(computed));
 }

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include "platform/PrintedPages.h"
+
 class QLabel;
 
 namespace corvane {
@@ -32,7 +34,7 @@ class WebView : public QWidget {
 
   /// Prints the page after the system's print dialog, and keeps all input away until it is printed.
   /// It fails also when no page is shown.
-  PrintOutcome Print();
+  PrintOutcome Print(const PrintedLabels& labels);
 
  signals:
   /// The page stands on the screen, or could not be loaded.

@@ -6,7 +6,6 @@
 #include "account/TierTable.h"
 #include "formulas/AnnualYield.h"
 #include "formulas/DayInterest.h"
-#include "formulas/InterestByDay.h"
 
 namespace corvane {
 
@@ -113,9 +112,13 @@ std::optional<std::string> EmptyDaysQuestion(const DailyBalances& daily) {
          " days have no balance and count as 0. Compute the average all the same?";
 }
 
+StatementInterest InterestOf(const DailyBalances& daily) {
+  return InterestByDay(daily.account, OfEachDay(daily, &DayEntry::balance),
+                       OfEachDay(daily, &DayEntry::rate));
+}
+
 std::variant<ComputedDays, Refusal> ComputeAdb(const DailyBalances& daily) {
-  const StatementInterest computed = InterestByDay(
-      daily.account, OfEachDay(daily, &DayEntry::balance), OfEachDay(daily, &DayEntry::rate));
+  const StatementInterest computed = InterestOf(daily);
   if (!IsAmount(computed.averageBalance) || !IsAmount(computed.interest.total)) {
     return RefusalOf(Failure::NotComputable);
   }

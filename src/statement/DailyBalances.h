@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "account/Refusal.h"
+#include "formulas/InterestByDay.h"
 #include "statement/StatementEntry.h"
 
 namespace corvane {
@@ -63,6 +64,9 @@ std::string SummaryText(const DailyBalances& daily);
 
 /// What "Compute ADB" asks first where days were left empty.
 std::optional<std::string> EmptyDaysQuestion(const DailyBalances& daily);
+
+/// The average of the days and the interest that each of them earns.
+StatementInterest InterestOf(const DailyBalances& daily);
 
 /// What "Compute ADB" hands back.
 struct ComputedDays {

@@ -34,6 +34,7 @@ bool IsWhole(double value);
 // exact half goes to the even neighbour) and use "." whatever the locale.
 
 std::string FormatFixed2(double value);     ///< "######0.00": 1234.5 gives 1234.50
+std::string FormatFixed6(double value);     ///< "######0.000000": the interest of a day
 std::string FormatGrouped2(double value);   ///< "##,##0.00": 1234.5 gives 1,234.50
 std::string FormatRate(double value);       ///< "######0.00##": 5 gives 5.00, 5.1234 stays
 std::string FormatTerm(double value);       ///< "#.00": 0.5 gives .50

@@ -8,6 +8,8 @@
 #include "platform/WebView.h"
 #include "reports/DataFolder.h"
 #include "reports/SaveName.h"
+#include "support/Clock.h"
+#include "support/Dates.h"
 #include "support/Paths.h"
 #include "support/WholeFile.h"
 #include "windows/frame/WindowRegistry.h"
@@ -93,12 +95,14 @@ void ReportWindow::BuildReport() {
   if (!report.text) view_->ShowNotice("No report was built.");
   for (const Refusal& message : report.messages) Tell(message);
   text_ = std::move(report.text);
+  labels_ = {windowTitle(), QString::fromStdString(session().header.institution),
+             QString::fromStdString(FormatDate(Today()))};
   if (text_) view_->ShowFile(Text(output));
 }
 
 void ReportWindow::Print() {
   if (!text_) return;
-  const PrintOutcome outcome = view_->Print();
+  const PrintOutcome outcome = view_->Print(labels_);
   if (outcome == PrintOutcome::Printed) ShowHint("Printed");
   if (outcome == PrintOutcome::Failed) {
     Tell({"The report could not be printed.", "", "Error!", MessageIcon::None});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/PrintedPages.h"
 #include "reports/ReportFile.h"
 #include "windows/frame/Form.h"
 
@@ -36,6 +37,7 @@ class ReportWindow : public Form {
   ReportNames names_;
   WebView* view_ = nullptr;
   std::optional<std::string> text_;  ///< the report as it was built
+  PrintedLabels labels_;             ///< of the report when it is printed
 };
 
 }  // namespace corvane
