@@ -6,6 +6,7 @@
 set -eu
 
 for_run="cmake ninja-build g++ qt6-base-dev qt6-webengine-dev libgl-dev libvulkan-dev
+  libtbb-dev libcli11-dev
   libchm-dev fp-utils fontconfig fonts-dejavu-core"
 for_test="$for_run libgtest-dev"
 for_ci="$for_test libbenchmark-dev clang-format python3"

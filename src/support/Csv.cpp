@@ -145,7 +145,6 @@ CsvReader::Found CsvReader::Split() {
   record_.cells.clear();
   if (SplitCells() == Found::NeedsMore) return Found::NeedsMore;
   if (record_.damage == CsvDamage::None) record_.damage = DamageOf(record_.text);
-  if (record_.damage != CsvDamage::None) record_.cells.clear();
   return Found::Record;
 }
 

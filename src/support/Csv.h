@@ -26,9 +26,10 @@ enum class LineEnd { None, Lf, CrLf };
 
 /// A record as it stands in its file.
 struct CsvRecord {
-  std::size_t line = 0;                 ///< where it begins, the first line being 1
-  std::string_view text;                ///< without its line end; empty when it is too long
-  std::vector<std::string_view> cells;  ///< quotes included: see CsvText; none in a damaged record
+  std::size_t line = 0;   ///< where it begins, the first line being 1
+  std::string_view text;  ///< without its line end; empty when it is too long
+  std::vector<std::string_view>
+      cells;  ///< quotes included: see CsvText; of a damaged record those that could be read
   CsvDamage damage = CsvDamage::None;
   LineEnd end = LineEnd::None;
 };

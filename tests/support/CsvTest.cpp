@@ -18,7 +18,8 @@ std::string Read(std::string_view text, std::size_t atOnce) {
     told += std::to_string(record->line);
     if (record->damage != CsvDamage::None) told += std::string("!") + DamageText(record->damage);
     const char* mark = ":";
-    for (const std::string_view cell : record->cells) {
+    const bool isSound = record->damage == CsvDamage::None;
+    for (const std::string_view cell : isSound ? record->cells : std::vector<std::string_view>{}) {
       told.append(mark).append(CsvText(cell, buffer));
       mark = "|";
     }

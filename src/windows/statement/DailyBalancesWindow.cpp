@@ -81,8 +81,12 @@ DailyBalancesWindow::Row DailyBalancesWindow::MakeRow(int index) {
 
 void DailyBalancesWindow::BindRow(std::size_t index) {
   const Row& row = rows_[index];
-  BindNumeric(row.balance, {.repairMinus = true, .decimals = 2, .kind = "bal"});
-  BindNumeric(row.rate, {.repairMinus = true, .decimals = 4, .kind = "int"});
+  BindNumeric(row.balance, {.repairMinus = true,
+                            .decimals = kDayBalanceDecimals.decimals,
+                            .kind = kDayBalanceDecimals.kind});
+  BindNumeric(
+      row.rate,
+      {.repairMinus = true, .decimals = kDayRateDecimals.decimals, .kind = kDayRateDecimals.kind});
   SelectTextOnFocus(row.balance);
   SelectTextOnFocus(row.rate);
   OnLostFocus(row.balance, [this, index](const QString&) { txtDayBal_LostFocus(index); });

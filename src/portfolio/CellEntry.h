@@ -1,0 +1,90 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "account/AccountHeader.h"
+#include "account/Field.h"
+#include "account/NumericEntry.h"
+#include "account/TierTable.h"
+#include "portfolio/AccountRows.h"
+
+namespace corvane {
+
+/// What is told of a row: the messages that a window shows on the way, and why it goes no further.
+struct Told {
+  std::string notices;
+  std::optional<Refusal> refusal;
+  std::size_t row = 0;  ///< of the account, from 0, that is refused
+
+  /// Adds a message; nothing is added twice.
+  void Add(const std::optional<Refusal>& notice);
+  /// Takes a refusal over; true when there is one.
+  bool Refuses(std::optional<Refusal> why);
+};
+
+/// Types a cell into a numeric field, which cuts what has too many decimals.
+std::string Typed(std::string_view cell, std::span<const DecimalLimit> limits, const char* control,
+                  Told& told);
+std::string Typed(std::string_view cell, const DecimalLimit& limit, Told& told);
+
+/// Why a cell has no place where nothing can be typed: it is neither empty nor 0 and says something
+/// else than what stands there.
+std::optional<Refusal> CheckClosed(std::string_view cell, std::string_view stands, Column column);
+
+/// A word of a column and the option that it chooses.
+struct OptionWord {
+  Column column;
+  const char* word;
+  const char* control;
+};
+
+/// What is said of a word that is none of the column's.
+Refusal NoWordOf(Column column, std::span<const OptionWord> words);
+
+/// Chooses the option that a cell names; an empty cell leaves what was chosen. Refuses a word that
+/// is none of the column's.
+template <class Values>
+std::optional<Refusal> ChooseOption(std::string_view cell, Column column,
+                                    std::span<const OptionWord> words, Values& values) {
+  if (Trim(cell).empty()) return std::nullopt;
+  for (const OptionWord& word : words) {
+    if (word.column != column || !IsWord(cell, word.word)) continue;
+    for (const auto& option : Values::Options()) {
+      if (std::string_view(option.control) == word.control) option.choose(values);
+    }
+    return std::nullopt;
+  }
+  return NoWordOf(column, words);
+}
+
+/// The word of the option that is chosen; empty for none.
+template <class Values>
+std::string_view ChosenWord(Column column, std::span<const OptionWord> words,
+                            const Values& values) {
+  for (const OptionWord& word : words) {
+    if (word.column != column) continue;
+    for (const auto& option : Values::Options()) {
+      if (std::string_view(option.control) == word.control && option.isChosen(values)) {
+        return word.word;
+      }
+    }
+  }
+  return "";
+}
+
+/// A date as the masked fields hold it: "2024-01-31" and "01/31/2024" give "01-31-2024"; any other
+/// text stays as it is.
+std::string MaskedDate(std::string_view cell);
+
+/// The identification texts of a row.
+AccountHeader AccountHeaderOf(const PortfolioRow& row);
+
+/// What is said of a tier table that has too few or too many rows.
+std::optional<Refusal> CheckTierCount(std::size_t tiers);
+
+/// The tier table that the rows of an account describe, and what is told of it.
+TierTable TierTableOf(std::span<const PortfolioRow> rows, Told& told);
+
+}  // namespace corvane
