@@ -16,9 +16,12 @@ InputFile::InputFile(const std::string& name, const std::atomic<bool>& cancel)
     : name_(name), cancel_(cancel) {
   descriptor_ = name == "-" ? STDIN_FILENO : open(name.c_str(), O_RDONLY | O_CLOEXEC);
   struct stat status {};
-  if (descriptor_ < 0 || fstat(descriptor_, &status) != 0) return Fail();
-  if (S_ISDIR(status.st_mode)) errno = EISDIR;
-  if (S_ISDIR(status.st_mode)) return Fail();
+  bool failed = descriptor_ < 0 || fstat(descriptor_, &status) != 0;
+  if (!failed && S_ISDIR(status.st_mode)) {
+    failed = true;
+    errno = EISDIR;
+  }
+  if (failed) Fail();
   if (S_ISREG(status.st_mode)) size_ = static_cast<std::size_t>(status.st_size);
 }
 
