@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "account/AccountHeader.h"
 #include "account/Field.h"
@@ -36,43 +38,49 @@ std::optional<Refusal> CheckClosed(std::string_view cell, std::string_view stand
 /// A word of a column and the option that it chooses.
 struct OptionWord {
   Column column;
-  const char* word;
-  const char* control;
+  std::string_view word;
+  std::string_view control;
 };
 
 /// What is said of a word that is none of the column's.
 Refusal NoWordOf(Column column, std::span<const OptionWord> words);
 
-/// Chooses the option that a cell names; an empty cell leaves what was chosen. Refuses a word that
-/// is none of the column's.
+/// The words of columns that choose options of a window's values.
 template <class Values>
-std::optional<Refusal> ChooseOption(std::string_view cell, Column column,
-                                    std::span<const OptionWord> words, Values& values) {
-  if (Trim(cell).empty()) return std::nullopt;
-  for (const OptionWord& word : words) {
-    if (word.column != column || !IsWord(cell, word.word)) continue;
-    for (const auto& option : Values::Options()) {
-      if (std::string_view(option.control) == word.control) option.choose(values);
+class OptionWords {
+ public:
+  explicit OptionWords(std::span<const OptionWord> words) : words_(words) {
+    for (const OptionWord& word : words) {
+      const auto options = Values::Options();
+      const auto isNamed = [&word](const auto& option) { return word.control == option.control; };
+      options_.push_back(&*std::ranges::find_if(options, isNamed));
     }
-    return std::nullopt;
   }
-  return NoWordOf(column, words);
-}
 
-/// The word of the option that is chosen; empty for none.
-template <class Values>
-std::string_view ChosenWord(Column column, std::span<const OptionWord> words,
-                            const Values& values) {
-  for (const OptionWord& word : words) {
-    if (word.column != column) continue;
-    for (const auto& option : Values::Options()) {
-      if (std::string_view(option.control) == word.control && option.isChosen(values)) {
-        return word.word;
-      }
+  /// Chooses the option that a cell names; an empty cell leaves what was chosen. Refuses a word
+  /// that is none of the column's.
+  std::optional<Refusal> Choose(std::string_view cell, Column column, Values& values) const {
+    if (Trim(cell).empty()) return std::nullopt;
+    for (std::size_t k = 0; k < words_.size(); ++k) {
+      if (words_[k].column != column || !IsWord(cell, words_[k].word)) continue;
+      options_[k]->choose(values);
+      return std::nullopt;
     }
+    return NoWordOf(column, words_);
   }
-  return "";
-}
+
+  /// The word of the option that is chosen; empty for none.
+  std::string_view ChosenWord(Column column, const Values& values) const {
+    for (std::size_t k = 0; k < words_.size(); ++k) {
+      if (words_[k].column == column && options_[k]->isChosen(values)) return words_[k].word;
+    }
+    return "";
+  }
+
+ private:
+  std::span<const OptionWord> words_;
+  std::vector<const OptionName<Values>*> options_;
+};
 
 /// A date as the masked fields hold it: "2024-01-31" and "01/31/2024" give "01-31-2024"; any other
 /// text stays as it is.

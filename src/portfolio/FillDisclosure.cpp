@@ -29,6 +29,11 @@ constexpr OptionWord kWords[] = {
     {Column::Withdrawals, "months", "optRIMonths"},
 };
 
+const OptionWords<DisclosureSetup>& Words() {
+  static const OptionWords<DisclosureSetup> words(kWords);
+  return words;
+}
+
 struct EntryColumn {
   Column column;
   Field Entry::*field;
@@ -65,7 +70,6 @@ class Filling {
   explicit Filling(Rows rows) : rows_(rows) {}
 
   FilledDisclosure Result() {
-    filled_.header = AccountHeaderOf(rows_.front());
     if (TakeSetup() && TakeTierTable()) TakeEntries();
     return std::move(filled_);
   }
@@ -93,8 +97,8 @@ class Filling {
     const std::string_view cell = row.Cell(column);
     if (!Goes() || cell.empty()) return;
     filled_.told.Refuses(IsOffered(choices, column, cell)
-                             ? ChooseOption(cell, column, kWords, choices)
-                             : CheckClosed(cell, ChosenWord(column, kWords, choices), column));
+                             ? Words().Choose(cell, column, choices)
+                             : CheckClosed(cell, Words().ChosenWord(column, choices), column));
   }
 
   void TakeInterval(DisclosureSetup& choices, std::string_view cell) {

@@ -7,7 +7,6 @@ namespace corvane {
 
 /// A disclosure as a person would have typed it from the rows of a file.
 struct FilledDisclosure {
-  AccountHeader header;
   DisclosureCheck check;  ///< with its result unless it was refused
   Told told;
 };

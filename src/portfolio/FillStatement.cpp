@@ -8,14 +8,28 @@ namespace {
 
 using Entry = StatementEntry;
 
-constexpr OptionWord kWords[] = {
+constexpr OptionWord kSetupWords[] = {
     {Column::Kind, "regular", "optRegNoDisc"},  {Column::Kind, "stepped", "optStepRate"},
     {Column::Kind, "tier-a", "optTierA"},       {Column::Kind, "tier-b", "optTierB"},
     {Column::Compounding, "none", "optICNone"}, {Column::Compounding, "days", "optICDays"},
     {Column::Year, "365", "optDY365"},          {Column::Year, "366", "optDY366"},
     {Column::CountFeb29, "yes", "opt229yes"},   {Column::CountFeb29, "no", "opt229no"},
-    {Column::Method, "daily", "optDailyBal"},   {Column::Method, "adb", "optADB"},
 };
+
+constexpr OptionWord kEntryWords[] = {
+    {Column::Method, "daily", "optDailyBal"},
+    {Column::Method, "adb", "optADB"},
+};
+
+const OptionWords<StatementSetup>& WordsOf(const StatementSetup&) {
+  static const OptionWords<StatementSetup> words(kSetupWords);
+  return words;
+}
+
+const OptionWords<Entry>& WordsOf(const Entry&) {
+  static const OptionWords<Entry> words(kEntryWords);
+  return words;
+}
 
 struct EntryColumn {
   Column column;
@@ -45,7 +59,6 @@ class Filling {
   explicit Filling(const AccountRows& account) : account_(account), row_(account.rows.front()) {}
 
   FilledStatement Result() {
-    filled_.header = AccountHeaderOf(row_);
     if (TakeSetup() && TakeTierTable() && TakeEntry() && TakeDays()) Calculate();
     return std::move(filled_);
   }
@@ -71,7 +84,7 @@ class Filling {
 
   template <class Values>
   void Choose(Values& values, Column column) {
-    if (Goes()) filled_.told.Refuses(ChooseOption(Cell(column), column, kWords, values));
+    if (Goes()) filled_.told.Refuses(WordsOf(values).Choose(Cell(column), column, values));
   }
 
   void TakeField(Field& field, Column column) {
@@ -107,7 +120,7 @@ class Filling {
   /// A method that the account demands stands already.
   void ChooseMethod(Entry& entry) {
     if (!LocksMethod(filled_.check.setup)) return Choose(entry, Column::Method);
-    const std::string_view stands = ChosenWord(Column::Method, kWords, entry);
+    const std::string_view stands = WordsOf(entry).ChosenWord(Column::Method, entry);
     filled_.told.Refuses(CheckClosed(Cell(Column::Method), stands, Column::Method));
   }
 

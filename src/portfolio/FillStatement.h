@@ -7,7 +7,6 @@ namespace corvane {
 
 /// A statement as a person would have typed it from the rows of a file.
 struct FilledStatement {
-  AccountHeader header;
   StatementCheck check;                   ///< with its result unless it was refused
   std::optional<double> computedAverage;  ///< of the daily balances, currency
   Told told;

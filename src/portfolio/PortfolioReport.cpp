@@ -48,10 +48,6 @@ std::string TextRow(const PortfolioRow& row, const std::string& text) {
 
 }  // namespace
 
-void PortfolioSummary::Listed::Add(std::string row) {
-  if (++count <= kMostRows) rows.push_back(std::move(row));
-}
-
 std::vector<std::string> PortfolioSummary::Listed::Table() const {
   std::vector<std::string> table = rows;
   constexpr const char* kWhole = "<TR><TD class=text colspan=8>";
@@ -83,11 +79,14 @@ void PortfolioSummary::TakeAccount(const AccountRows& account, const AccountOutc
 
 void PortfolioSummary::TakeRow(const PortfolioRow& row, const RowOutcome& outcome, bool isRefused) {
   for (const Figures* figures : {&outcome.figures, &outcome.highEnd}) {
-    if (figures->verdict == Verdict::Violation) violations_.Add(ViolationRow(row, *figures));
+    if (figures->verdict == Verdict::Violation)
+      violations_.Add([&] { return ViolationRow(row, *figures); });
   }
-  if (isRefused && !outcome.message.empty()) refused_.Add(TextRow(row, outcome.message));
-  if (!isRefused && !outcome.message.empty()) notes_.Add(TextRow(row, outcome.message));
-  if (!outcome.note.empty()) notes_.Add(TextRow(row, outcome.note));
+  if (isRefused && !outcome.message.empty())
+    refused_.Add([&] { return TextRow(row, outcome.message); });
+  if (!isRefused && !outcome.message.empty())
+    notes_.Add([&] { return TextRow(row, outcome.message); });
+  if (!outcome.note.empty()) notes_.Add([&] { return TextRow(row, outcome.note); });
 }
 
 ReportContent PortfolioSummary::Content(const std::string& files, const std::string& program,

@@ -40,7 +40,11 @@ class PortfolioSummary {
     std::vector<std::string> rows;
     std::size_t count = 0;
 
-    void Add(std::string row);
+    /// Counts a row; it is made only where it finds a place.
+    template <class Make>
+    void Add(Make make) {
+      if (++count <= kMostRows) rows.push_back(make());
+    }
     std::vector<std::string> Table() const;
   };
 

@@ -243,8 +243,10 @@ std::string_view CsvText(std::string_view cell, std::string& buffer) {
 }
 
 void AppendCsvCell(std::string& line, std::string_view text, char separator) {
-  const char special[] = {separator, '"', '\r', '\n'};
-  if (text.find_first_of(std::string_view(special, sizeof special)) == std::string_view::npos) {
+  const auto isSpecial = [separator](char c) {
+    return c == separator || c == '"' || c == '\r' || c == '\n';
+  };
+  if (std::ranges::none_of(text, isSpecial)) {
     line += text;
     return;
   }

@@ -11,7 +11,9 @@ namespace corvane {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
 
 /// The value with so many decimals, rounded by the one rule; no locale decides its decimal point,
 /// and nothing is left of the sign of a zero.
@@ -36,6 +38,28 @@ std::string Grouped(std::string text) {
   return text;
 }
 
+/// Digits and decimals of a text in number form that fit a double as they are: the quotient is then
+/// the nearest double to the decimal number. Nothing for other texts.
+std::optional<double> ShortNumber(std::string_view text) {
+  constexpr std::size_t kMostLength = 16;  // a point and 15 digits, or fewer with a sign
+  constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  if (text.size() > kMostLength) return std::nullopt;
+  const bool isNegative = text.front() == '-';
+  std::int64_t digits = 0;
+  std::size_t decimals = 0;
+  bool isBehindPoint = false;
+  for (const char c : text) {
+    if (c == '.') isBehindPoint = true;
+    if (c < '0' || c > '9') continue;
+    digits = digits * 10 + (c - '0');
+    decimals += isBehindPoint;
+  }
+  if (digits > 999'999'999'999'999) return std::nullopt;
+  const double value = static_cast<double>(digits) / kPowers[std::min<std::size_t>(decimals, 15)];
+  return isNegative ? -value : value;
+}
+
 bool HasNumberForm(std::string_view text) {
   if (!text.empty() && (text.front() == '+' || text.front() == '-')) text.remove_prefix(1);
   int digits = 0;
@@ -56,6 +80,7 @@ bool HasNumberForm(std::string_view text) {
 std::optional<double> Parsed(std::string_view text) {
   text = Trim(text);
   if (!HasNumberForm(text)) return std::nullopt;
+  if (const auto number = ShortNumber(text)) return number;
   if (text.front() == '+') text.remove_prefix(1);
   double value = 0;
   const auto read =
@@ -68,9 +93,9 @@ std::optional<double> Parsed(std::string_view text) {
 }  // namespace
 
 std::string_view Trim(std::string_view text) {
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
 }
 
 bool IsNumeric(std::string_view text) {
