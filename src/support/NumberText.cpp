@@ -38,49 +38,8 @@ std::string Grouped(std::string text) {
   return text;
 }
 
-/// Digits and decimals of a text in number form that fit a double as they are: the quotient is then
-/// the nearest double to the decimal number. Nothing for other texts.
-std::optional<double> ShortNumber(std::string_view text) {
-  constexpr std::size_t kMostLength = 16;  // a point and 15 digits, or fewer with a sign
-  constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-  if (text.size() > kMostLength) return std::nullopt;
-  const bool isNegative = text.front() == '-';
-  std::int64_t digits = 0;
-  std::size_t decimals = 0;
-  bool isBehindPoint = false;
-  for (const char c : text) {
-    if (c == '.') isBehindPoint = true;
-    if (c < '0' || c > '9') continue;
-    digits = digits * 10 + (c - '0');
-    decimals += isBehindPoint;
-  }
-  if (digits > 999'999'999'999'999) return std::nullopt;
-  const double value = static_cast<double>(digits) / kPowers[std::min<std::size_t>(decimals, 15)];
-  return isNegative ? -value : value;
-}
-
-bool HasNumberForm(std::string_view text) {
-  if (!text.empty() && (text.front() == '+' || text.front() == '-')) text.remove_prefix(1);
-  int digits = 0;
-  int points = 0;
-  for (char c : text) {
-    if (c == '.') {
-      ++points;
-    } else if (c >= '0' && c <= '9') {
-      ++digits;
-    } else {
-      return false;
-    }
-  }
-  return digits > 0 && points <= 1;
-}
-
-/// The number, or nothing when the text is none or a double cannot hold it; 0 would be wrong there.
-std::optional<double> Parsed(std::string_view text) {
-  text = Trim(text);
-  if (!HasNumberForm(text)) return std::nullopt;
-  if (const auto number = ShortNumber(text)) return number;
+/// The number of a text that is none of 15 digits or fewer but has their form.
+std::optional<double> ParsedLong(std::string_view text) {
   if (text.front() == '+') text.remove_prefix(1);
   double value = 0;
   const auto read =
@@ -88,6 +47,31 @@ std::optional<double> Parsed(std::string_view text) {
   const bool outOfRange = read.ec == std::errc::result_out_of_range;
   const bool isHuge = outOfRange && text.find_first_of("123456789") < text.find('.');
   return isHuge ? std::nullopt : std::optional(value);
+}
+
+/// The number, or nothing when the text is none or a double cannot hold it; 0 would be wrong there.
+std::optional<double> Parsed(std::string_view text) {
+  // Up to here a double holds digits and power of ten as they are, and their quotient is the
+  // nearest one to the decimal number.
+  constexpr int kExactDigits = 15;
+  constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  text = Trim(text);
+  const bool hasSign = !text.empty() && (text.front() == '+' || text.front() == '-');
+  std::int64_t number = 0;
+  int digits = 0, points = 0, decimals = 0;
+  for (const char c : text.substr(hasSign ? 1 : 0)) {
+    const bool isDigit = c >= '0' && c <= '9';
+    if (!isDigit && c != '.') return std::nullopt;
+    points += !isDigit;
+    digits += isDigit;
+    decimals += isDigit && points > 0;
+    if (isDigit && digits <= kExactDigits) number = number * 10 + (c - '0');
+  }
+  if (digits == 0 || points > 1) return std::nullopt;
+  if (digits > kExactDigits) return ParsedLong(text);
+  const double value = static_cast<double>(number) / kPowers[decimals];
+  return text.front() == '-' ? -value : value;
 }
 
 }  // namespace
