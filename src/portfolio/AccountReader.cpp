@@ -93,6 +93,7 @@ void AccountReader::TakeAccount(AccountBatch& batch) {
   const std::size_t first = batch.rows.size();
   if (SkipsOverlong(batch)) return;
   TakeRow(batch);
+  Advance();
   std::size_t anchor = first;
   if (*batch.rows[first].damage && record_) {
     TakeRow(batch);
@@ -114,7 +115,6 @@ void AccountReader::TakeAccount(AccountBatch& batch) {
 }
 
 void AccountReader::TakeFurtherRows(AccountBatch& batch, std::size_t first, std::size_t anchor) {
-  if (anchor == first) Advance();
   if (!HasFurtherRows(batch.rows[anchor])) return;
   while (record_) {
     TakeRow(batch);

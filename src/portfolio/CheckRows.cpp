@@ -64,7 +64,7 @@ void PutYear(RowText& row, const YearRule& year) {
 void PutSetup(RowText& row, const DisclosureSetup& setup) {
   const SetupGroups groups = GroupsOf(setup);
   row[Column::Compounding] = WordOf(setup.compounding);
-  if (groups.interval) row[Column::Every] = setup.txtDailyCompounding.text;
+  if (groups.interval) row[Column::Every] = std::to_string(PeriodLength(setup));
   if (groups.year) PutYear(row, setup.year);
   if (groups.withdrawal) row[Column::Withdrawals] = WordOf(setup.withdrawal);
 }

@@ -35,7 +35,7 @@ TEST(PortfolioRun, DamagedFilesKeepTheirGoodRowsAndTellTheLineOfTheOthers) {
             "file may be cut there.\n"},
       {"cut in the last cell", a + "B,,5.39,1000,5.25,,365",
        ok + "The last line has no end; the file may be cut there.\n"},
-      {"NUL", a + std::string("C,,5.39,10\0\0,5.25,,365\n", 24) + b,
+      {"NUL", a + std::string("C,,5.39,10\0\0,5.25,,365\n", 23) + b,
        "A OK ;C REFUSED Line 3: The row holds a NUL character.;B OK ;"},
       {"10 MB on one line", a + huge + "\n" + b,
        refused + "The row is longer than 65,536 bytes.;B OK ;"},
