@@ -49,6 +49,18 @@ std::optional<double> ParsedLong(std::string_view text) {
   return isHuge ? std::nullopt : std::optional(value);
 }
 
+/// Takes the digits at the beginning of a text away from it and appends them to the number. How
+/// many.
+int TakeDigits(std::string_view& text, std::uint64_t& number) {
+  const auto* at = text.begin();
+  for (; at != text.end() && *at >= '0' && *at <= '9'; ++at) {
+    number = number * 10 + static_cast<std::uint64_t>(*at - '0');
+  }
+  const auto count = at - text.begin();
+  text.remove_prefix(static_cast<std::size_t>(count));
+  return static_cast<int>(count);
+}
+
 /// The number, or nothing when the text is none or a double cannot hold it; 0 would be wrong there.
 std::optional<double> Parsed(std::string_view text) {
   // Up to here a double holds digits and power of ten as they are, and their quotient is the
@@ -57,19 +69,15 @@ std::optional<double> Parsed(std::string_view text) {
   constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
   text = Trim(text);
-  const bool hasSign = !text.empty() && (text.front() == '+' || text.front() == '-');
-  std::int64_t number = 0;
-  int digits = 0, points = 0, decimals = 0;
-  for (const char c : text.substr(hasSign ? 1 : 0)) {
-    const bool isDigit = c >= '0' && c <= '9';
-    if (!isDigit && c != '.') return std::nullopt;
-    points += !isDigit;
-    digits += isDigit;
-    decimals += isDigit && points > 0;
-    if (isDigit && digits <= kExactDigits) number = number * 10 + (c - '0');
-  }
-  if (digits == 0 || points > 1) return std::nullopt;
-  if (digits > kExactDigits) return ParsedLong(text);
+  std::string_view rest = text;
+  if (!rest.empty() && (rest.front() == '+' || rest.front() == '-')) rest.remove_prefix(1);
+  std::uint64_t number = 0;
+  const int whole = TakeDigits(rest, number);
+  const bool hasPoint = !rest.empty() && rest.front() == '.';
+  if (hasPoint) rest.remove_prefix(1);
+  const int decimals = hasPoint ? TakeDigits(rest, number) : 0;
+  if (!rest.empty() || whole + decimals == 0) return std::nullopt;
+  if (whole + decimals > kExactDigits) return ParsedLong(text);
   const double value = static_cast<double>(number) / kPowers[decimals];
   return text.front() == '-' ? -value : value;
 }
@@ -97,8 +105,8 @@ std::optional<std::int16_t> WholeNumber(double value) {
 }
 
 std::optional<std::int16_t> WholeNumber(std::string_view text) {
-  if (!IsNumeric(text)) return std::nullopt;
-  return WholeNumber(NumericValue(text));
+  const auto number = Parsed(text);
+  return number ? WholeNumber(*number) : std::nullopt;
 }
 
 bool IsWhole(double value) {
