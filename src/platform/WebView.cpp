@@ -153,6 +153,11 @@ void WebView::ShowFile(const QString& path) {
   Load();
 }
 
+void WebView::SetZoom(int percent) {
+  zoom_ = percent;
+  if (browser_) browser_->page.setZoomFactor(percent / 100.0);
+}
+
 void WebView::ShowNotice(const QString& text) {
   DropBrowser();
   notice_->setText(text);
@@ -164,6 +169,8 @@ void WebView::Load() {
   notice_->hide();
   browser_ = std::make_shared<Browser>();
   layout()->addWidget(&browser_->view);
+  setFocusProxy(&browser_->view);
+  SetZoom(zoom_);
   connect(&browser_->page, &QWebEnginePage::loadFinished, this, &WebView::Loaded);
   connect(&browser_->page, &QWebEnginePage::renderProcessTerminated, this,
           [this] { Loaded(false); });
@@ -178,6 +185,7 @@ void WebView::DropBrowser() {
 
 void WebView::Loaded(bool success) {
   if (success) {
+    SetZoom(zoom_);
     emit Shown(true);
     return;
   }
@@ -206,6 +214,8 @@ bool WebView::Print() {
 }
 
 void PrepareWebView() {
+  // On Linux the engine tells screen readers what a page holds only where it is asked to.
+  qputenv("QTWEBENGINE_ENABLE_LINUX_ACCESSIBILITY", "1");
 #ifdef Q_OS_UNIX
   if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 #endif

@@ -22,6 +22,9 @@ class WebView : public QWidget {
   /// once more; then a notice says that it cannot be shown and where it stands.
   void ShowFile(const QString& path);
 
+  /// Shows the file and those that follow at a percentage of their size; they print at their own.
+  void SetZoom(int percent);
+
   /// Shows a plain sentence in place of a page.
   void ShowNotice(const QString& text);
 
@@ -44,6 +47,7 @@ class WebView : public QWidget {
   QLabel* notice_;
   std::shared_ptr<Browser> browser_;
   QString path_;
+  int zoom_ = 100;
   bool loadedAgain_ = false;
 };
 

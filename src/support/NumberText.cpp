@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 #include "support/Rounding.h"
 
@@ -88,6 +89,18 @@ std::string_view Trim(std::string_view text) {
   while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
   return text;
+}
+
+std::string WithKeyboardSigns(std::string_view text) {
+  constexpr std::pair<std::string_view, std::string_view> kSigns[] = {
+      {"\u00a0", " "}, {"\u2007", " "}, {"\u2009", " "}, {"\u202f", " "}, {"\u2212", "-"}};
+  std::string plain(text);
+  for (const auto& [sign, key] : kSigns) {
+    for (auto at = plain.find(sign); at != plain.npos; at = plain.find(sign, at)) {
+      plain.replace(at, sign.size(), key);
+    }
+  }
+  return plain;
 }
 
 bool IsNumeric(std::string_view text) {

@@ -10,6 +10,10 @@ namespace corvane {
 /// Text without the blanks at its ends.
 std::string_view Trim(std::string_view text);
 
+/// The text (UTF-8) with blanks that do not break, narrow blanks and the minus sign of other
+/// programs as those of the keyboard.
+std::string WithKeyboardSigns(std::string_view text);
+
 /// True when the text, blanks trimmed, is an optional sign, digits and at most one point, with at
 /// least one digit. Thousands commas, exponents and currency signs make it no number, and so does a
 /// size that a double cannot hold; the decimal point is "." in every locale.

@@ -54,15 +54,24 @@ void ExpectReadingOrder(QWidget& form) {
   }
 }
 
-void ExpectNamedControls(QWidget& form) {
-  std::set<const QWidget*> labelled;
-  for (const auto* label : form.findChildren<QLabel*>()) labelled.insert(label->buddy());
-  for (const auto* control : TabOrder(form)) {
-    const auto* button = qobject_cast<const QAbstractButton*>(control);
-    const bool isNamed = labelled.contains(control) || !control->accessibleName().isEmpty() ||
-                         (button && !button->text().isEmpty());
-    const bool needsName = button || qobject_cast<const QLineEdit*>(control);
-    EXPECT_TRUE(isNamed || !needsName) << NameOf(control);
+/// What a screen reader makes of a window's parts, and of theirs: every control that takes keys has
+/// a name, an option stands in a named group, and no name is padded.
+void ExpectReadable(const QAccessibleInterface& part) {
+  const auto state = part.state();
+  const auto role = part.role();
+  const QString name = part.text(QAccessible::Name);
+  SCOPED_TRACE("'" + name.toStdString() + "' " + (part.object() ? NameOf(part.object()) : ""));
+  const bool takesKeys = state.focusable && role != QAccessible::StaticText;
+  EXPECT_FALSE(takesKeys && name.isEmpty());
+  EXPECT_TRUE(name == name.simplified() && !name.endsWith(" :"));
+  if (role == QAccessible::RadioButton) {
+    EXPECT_EQ(part.parent()->role(), QAccessible::Grouping);
+    EXPECT_NE(part.parent()->text(QAccessible::Name), "");
+  }
+  if (role == QAccessible::ComboBox) return;
+  for (int index = 0; index < part.childCount(); ++index) {
+    const auto& child = *part.child(index);
+    if (!child.state().invisible) ExpectReadable(child);
   }
 }
 
@@ -79,7 +88,7 @@ class FormLayout : public WindowTest {
     form.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&form));
     ExpectReadingOrder(form);
-    ExpectNamedControls(form);
+    ExpectReadable(*QAccessible::queryAccessibleInterface(form.centralWidget()));
     const QSize least = form.minimumSizeHint();
     EXPECT_TRUE(least.width() <= 1000 && least.height() <= 720)
         << "needs " << least.width() << " x " << least.height();

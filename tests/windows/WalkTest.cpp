@@ -94,6 +94,14 @@ QPoint PlaceOf(const QString& text) {
   return {text.section(',', 0, 0).toInt(), text.section(',', 1).toInt()};
 }
 
+/// The keys of the keyboard that a character or a chord such as Alt+C takes.
+int KeysOf(const QChar& letter) {
+  return letter.isUpper() || QString("~!@#$%^&*()_+{}|:\"<>?").contains(letter) ? 2 : 1;
+}
+int KeysOf(const QKeyCombination& chord) {
+  return 1 + static_cast<int>(qPopulationCount(chord.keyboardModifiers().toInt()));
+}
+
 /// A person's way through the windows, from the main menu on, as a file in walks tells it line by
 /// line; docs/testing.md lists the words.
 class Walk : public WindowTest {
@@ -136,8 +144,14 @@ class Walk : public WindowTest {
        Each([this](auto& name, auto& place) { DoubleClick(name, PlaceOf(place)); })},
       {"choose", Each([this](auto& name, auto&) { Choose(name); })},
       {"type", Each([this](auto& name, auto& text) { Type(name, text); })},
-      {"keys", Each([this](auto& text, auto&) { Keys(text); })},
+      {"keys", Each([this](auto& text, auto&) {
+         for (const QChar& letter : text) pressed_ += KeysOf(letter);
+         Keys(text);
+       })},
       {"key", Each([this](auto& name, auto&) { Press(name); })},
+      {"copy", Each([](QString text, auto&) {
+         QGuiApplication::clipboard()->setText(text.replace("\\n", "\n").replace("\\t", "\t"));
+       })},
       {"menu", Each([this](auto& item, auto&) { Menu(item); })},
       {"close", Each([this](auto& name, auto&) {
          EXPECT_EQ(Front()->objectName(), name) << "is not in front";
@@ -160,6 +174,10 @@ class Walk : public WindowTest {
       {"report", [this](const Words& words) { Report(words); }},
       {"closed", Each([](auto& name, auto&) { EXPECT_EQ(VisibleForm(name), nullptr); })},
       {"ended", [this](const Words&) { Ended(); }},
+      {"pressed", Each([this](auto& keys, auto&) {
+         EXPECT_EQ(pressed_, keys.toInt());
+         EXPECT_FALSE(usesMouse_) << "not by the keyboard alone";
+       })},
   };
 
   void Run(const std::vector<Step>& steps) {
@@ -200,6 +218,7 @@ class Walk : public WindowTest {
     word->second(words.mid(1));
     EXPECT_TRUE(!acts || boxes.empty()) << "a box did not come";
     if (!acts) ++expected_;
+    usesMouse_ |= acts && !QStringList{"in", "key", "keys"}.contains(words.front());
   }
 
   /// An act that opens windows above: each part of the block that begins with "in" is done in one
@@ -243,6 +262,7 @@ class Walk : public WindowTest {
   void Press(const QString& name) {
     const QKeySequence keys(name);
     ASSERT_TRUE(!keys.isEmpty() && keys[0].key() != Qt::Key_unknown) << "unknown key";
+    pressed_ += KeysOf(keys[0]);
     Key(keys[0].key(), keys[0].keyboardModifiers());
   }
 
@@ -286,6 +306,8 @@ class Walk : public WindowTest {
 
   const std::string file_;
   int expected_ = 0;
+  int pressed_ = 0;  ///< keys so far
+  bool usesMouse_ = false;
 };
 
 const bool kRegistered = [] {

@@ -6,11 +6,13 @@
 #include "disclosure/EntryChecks.h"
 #include "disclosure/EntryLayout.h"
 #include "disclosure/EntrySequence.h"
+#include "disclosure/EntrySlips.h"
 #include "disclosure/EntryTerm.h"
 #include "platform/Pictures.h"
 #include "support/Clock.h"
 #include "ui_DisclosureEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
+#include "windows/frame/DateCount.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -32,8 +34,11 @@ DisclosureEntryWindow::DisclosureEntryWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::DisclosureEntryWindow>()) {
   ui_->setupUi(this);
   NameArrayElements();
-  binding_ =
-      std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] { EnableCalendars(); });
+  dateCount_ = new DateCount(ui_->tStartDate);
+  binding_ = std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] {
+    EnableCalendars();
+    dateCount_->Show(TermDatesText(session().disclosure.setup, entry_));
+  });
   BindFields();
   BindButtons();
 }
@@ -56,7 +61,13 @@ void DisclosureEntryWindow::BindFields() {
   BindNumeric(ui_->txtTierPerNum, {.digitsOnly = true});
   RewriteOnLeaving(ui_->txtBal);
   for (QLineEdit* date : {ui_->tStartDate, ui_->tEndDate}) {
+    BindDate(date);
     connect(date, &QLineEdit::textChanged, this, [this] { Date_Change(); });
+  }
+  for (QLineEdit* field : {ui_->txtDailyRateFactor, ui_->txtBal, ui_->txtIntRateA}) {
+    AskOnLeaving(field, [this, field] {
+      return SlipOf(session().disclosure, entry_, field->objectName().toStdString());
+    });
   }
   connect(ui_->txtTerm, &QLineEdit::textEdited, this, [this] { termEdited_ = true; });
   OnLostFocus(ui_->txtTerm, [this](const QString& next) { txtTerm_LostFocus(next); });
@@ -79,6 +90,7 @@ void DisclosureEntryWindow::BindButtons() {
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdAcctInfo->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdNext, ui_->cmdCalculateResult});
   BindCommonMenus(kHelpContext);
 }
 
@@ -172,7 +184,7 @@ void DisclosureEntryWindow::Date_Change() {
 void DisclosureEntryWindow::ImgCalendar_Click(int index) {
   QLineEdit* field = index == 0 ? ui_->tStartDate : ui_->tEndDate;
   const Date from = ParseDate(TextOf(field)).value_or(Today());
-  const auto picked = windows().Get<CalendarPopup>().PickDate(from);
+  const auto picked = windows().Get<CalendarPopup>().PickDate(from, CalendarTitle(index == 0));
   if (!picked) return;
   SetText(field, FormatDate(*picked));
   Date_Change();

@@ -12,6 +12,8 @@ class DisclosureEntryWindow;
 
 namespace corvane {
 
+class DateCount;
+
 /// The entry window of the disclosure workflow: balance, rate, term or dates, withdrawals and the
 /// disclosed APY of an account, of a stepped period or of a tier.
 class DisclosureEntryWindow : public Form {
@@ -44,6 +46,7 @@ class DisclosureEntryWindow : public Form {
   std::unique_ptr<Ui::DisclosureEntryWindow> ui_;
   DisclosureEntry entry_;  ///< kept by the check when it is completed or left
   std::unique_ptr<FieldBinding<DisclosureEntry>> binding_;
+  DateCount* dateCount_ = nullptr;
   std::vector<QWidget*> termDates_;  ///< the two dates and their calendars
   bool termEdited_ = false;
 };

@@ -25,6 +25,7 @@ DisclosureResultsWindow::DisclosureResultsWindow(WindowRegistry& registry)
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { routes().ShowMainMenuKeepingHeader(); });
+  EnterPresses({ui_->cmdBack});
   BindCommonMenus(kHelpContext);
 }
 
@@ -33,6 +34,7 @@ DisclosureResultsWindow::~DisclosureResultsWindow() = default;
 void DisclosureResultsWindow::Form_Activate() {
   FocusField(ui_->cmdBack);
   BuildReport();
+  FocusReport();
 }
 
 ReportContent DisclosureResultsWindow::Content() {

@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "account/SlipNotice.h"
 #include "ui_TierTableWindow.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -28,6 +29,7 @@ TierTableWindow::TierTableWindow(WindowRegistry& registry)
   OnClick(ui_->cmdBack, [this] { routes().BackFromTierTable(ReadBoxes()); });
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdCalculate});
   BindCommonMenus(kHelpContext);
 }
 
@@ -42,6 +44,7 @@ void TierTableWindow::BindRow(int tier) {
   BindNumeric(rate, {.decimals = kTierRateDecimals.decimals, .kind = kTierRateDecimals.kind});
   SelectTextOnFocus(rate);
   connect(rate, &QLineEdit::textEdited, this, [this] { rateEdited_ = true; });
+  AskOnLeaving(rate, [this, tier] { return TierRateNotice(ReadBoxes(), tier); });
   OnLostFocus(rate, [this, tier](const QString& next) { txtInt_LostFocus(tier, next); });
   if (tier == kMostTiers) return;
   auto* bound = Box("txt_bne", tier);

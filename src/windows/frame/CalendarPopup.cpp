@@ -8,6 +8,7 @@
 #include "support/CalendarMonth.h"
 #include "support/Clock.h"
 #include "ui_CalendarPopup.h"
+#include "windows/frame/MonthAccess.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -33,6 +34,10 @@ CalendarPopup::CalendarPopup(WindowRegistry& registry)
         static_cast<QObject*>(ui_->LabelNextYear)}) {
     part->installEventFilter(this);
   }
+  for (auto* label : {ui_->lblPrev, ui_->lblNext, ui_->LabelPrevYear, ui_->LabelNextYear}) {
+    label->setAccessibleName(label->toolTip());
+  }
+  MoveTo(current_);
   BindHelp(kHelpContext);
 }
 
@@ -74,6 +79,7 @@ void CalendarPopup::MoveTo(const Date& date) {
   ui_->lblMonth->setText(QLocale::c().toString(shown, "MMMM yyyy"));
   ui_->picMonth->setAccessibleName(QString::fromStdString(FormatDate(date)));
   ui_->picMonth->update();
+  TellOfCurrentDay(*ui_->picMonth, date.day());
 }
 
 QRectF CalendarPopup::CellRect(const Date& date) const {
@@ -140,9 +146,6 @@ bool CalendarPopup::picMonth_KeyDown(int key) {
     case Qt::Key_Enter:
       dateChosen_ = true;
       return true;
-    case Qt::Key_Escape:
-      Close();
-      return true;
     default:
       return false;
   }
@@ -196,6 +199,10 @@ bool CalendarPopup::eventFilter(QObject* watched, QEvent* event) {
       break;
   }
   return Form::eventFilter(watched, event);
+}
+
+QString CalendarTitle(bool start) {
+  return QString(start ? "Start Date" : "End Date") + " - Double click for Date";
 }
 
 }  // namespace corvane

@@ -24,6 +24,11 @@ class CalendarPopup : public Form {
   /// day that was picked, or nothing.
   std::optional<Date> PickDate(const Date& from, const QString& caption = {});
 
+  /// The day that is marked, whose month is shown.
+  Date Current() const { return current_; }
+  /// Place of a day of that month in `picMonth`.
+  QRectF CellRect(const Date& date) const;
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -35,7 +40,6 @@ class CalendarPopup : public Form {
   bool picMonth_KeyDown(int key);
   bool LabelPressed(QObject* label);
   void PlaceBesidePointer();
-  QRectF CellRect(const Date& date) const;
   void Choose();
   void Close();
 
@@ -43,5 +47,8 @@ class CalendarPopup : public Form {
   Date current_;
   bool dateChosen_ = false;
 };
+
+/// The title of the calendar that asks for the start or for the end date.
+QString CalendarTitle(bool start);
 
 }  // namespace corvane

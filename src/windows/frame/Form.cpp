@@ -5,6 +5,8 @@
 #include "account/NumericEntry.h"
 #include "platform/MessageBox.h"
 #include "support/NumberText.h"
+#include "windows/frame/DateKeys.h"
+#include "windows/frame/PasteFilter.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -19,8 +21,19 @@ QPalette ReadableWhenDisabled(QPalette palette) {
   return palette;
 }
 
+bool IsEnter(const QKeyEvent& press) {
+  return press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
+}
+
 bool TypesCharacter(const QKeyEvent& press) {
   return !press.text().isEmpty() && press.text().front().isPrint();
+}
+
+TypedInto PlaceIn(const QLineEdit* field) {
+  const bool selected = field->hasSelectedText();
+  return {field->text().toStdU16String(),
+          selected ? field->selectionStart() : field->cursorPosition(),
+          static_cast<int>(field->selectedText().size())};
 }
 
 }  // namespace
@@ -44,19 +57,46 @@ Routes& Form::routes() {
 void Form::Load() {
   for (auto* button : findChildren<QAbstractButton*>()) button->installEventFilter(this);
   for (auto* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
+  BindKeys();
+  captions_.emplace(*this);
+  Form_Load();
+  captions_->Name();
+}
+
+void Form::BindKeys() {
   if (auto* bar = findChild<QMenuBar*>()) {
     bar->installEventFilter(this);
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, bar,
             [bar] { bar->setActiveAction(bar->actions().front()); });
   }
-  Form_Load();
+  if (role_ == Role::Main) return;
+  auto* escape = new QShortcut(Qt::Key_Escape, this);
+  escape->setAutoRepeat(false);
+  connect(escape, &QShortcut::activated, this, [this] { close(); });
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+  // A key held down would press again in the window that opens, or whatever was refused.
+  if (IsEnter(*event) && (event->isAutoRepeat() || enter_.Press())) return;
+  QMainWindow::keyPressEvent(event);
+}
+
+bool Form::focusNextPrevChild(bool next) {
+  LetTabEnterAtChosenOptions(*this);
+  return QMainWindow::focusNextPrevChild(next);
 }
 
 void Form::Tell(const Refusal& refusal) {
   const bool warns = refusal.icon == MessageIcon::Exclamation;
   ShowMessage(this, QString::fromStdString(refusal.text), QString::fromStdString(refusal.title),
               warns ? QMessageBox::Warning : QMessageBox::NoIcon);
+  if (refusal.field.empty()) return;  // which would find any part that has no name
   if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
+}
+
+void Form::ShowHint(const std::string& text) {
+  const QWidget* at = focused_ ? focused_.data() : this;
+  QToolTip::showText(at->mapToGlobal(at->rect().bottomLeft()), QString::fromStdString(text));
 }
 
 void Form::FocusField(QWidget* field) {
@@ -95,6 +135,19 @@ void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
   field->setAttribute(Qt::WA_InputMethodEnabled, false);
   connect(field, &QLineEdit::textChanged, this,
           [this, field, rule] { NumericChange(field, rule); });
+  new PasteFilter(field,
+                  [this, field, rule](const QString& text) { PasteNumber(field, rule, text); });
+}
+
+void Form::BindDate(QLineEdit* field) {
+  new DateKeys(field, [this](const std::string& refusal) { ShowHint(refusal); });
+}
+
+void Form::AskOnLeaving(QLineEdit* field, std::function<std::optional<std::string>()> notice) {
+  OnLostFocus(field, [this, notice, asked = std::optional<std::string>()](const QString&) mutable {
+    const auto last = std::exchange(asked, notice());
+    if (asked && asked != last) ShowHint(*asked);
+  });
 }
 
 void Form::SelectTextOnFocus(QLineEdit* field, int characters) {
@@ -131,6 +184,13 @@ void Form::NumericChange(QLineEdit* field, const NumericRule& rule) {
   if (limited.message) Tell(*limited.message);
 }
 
+void Form::PasteNumber(QLineEdit* field, const NumericRule& rule, const QString& text) {
+  const auto number = PastedNumber(PlaceIn(field), text.toStdString(), rule.kind);
+  const bool hasSigns = number && number->find_first_of("-.") != number->npos;
+  if (!number || (rule.digitsOnly && hasSigns)) return ShowHint(kNumberNotPasted);
+  field->insert(QString::fromStdString(*number));
+}
+
 bool Form::PressControl(const QKeySequence& accessKey) {
   for (auto* button : findChildren<QAbstractButton*>()) {
     if (button->shortcut() != accessKey || !button->isVisible() || !button->isEnabled()) continue;
@@ -142,16 +202,14 @@ bool Form::PressControl(const QKeySequence& accessKey) {
 }
 
 bool Form::RefusesNumericKey(QLineEdit* field, const QKeyEvent& press, const NumericRule& rule) {
-  if (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter) {
-    if (rule.enterMovesOn) focusNextPrevChild(true);
-    return true;
+  if (IsEnter(press)) {
+    if (rule.enterMovesOn && !press.isAutoRepeat()) focusNextPrevChild(true);
+    return rule.enterMovesOn;
   }
   if (!TypesCharacter(press)) return false;
   const QString text = press.text();
   if (rule.digitsOnly) return text < "0" || text > "9";
-  return !FilterNumericKey(text.toUcs4().front(),
-                           {field->text().toStdU16String(), field->selectionStart(),
-                            static_cast<int>(field->selectedText().size())});
+  return !FilterNumericKey(text.toUcs4().front(), PlaceIn(field));
 }
 
 bool Form::RefusesKey(QLineEdit* field, const QKeyEvent& press) {
@@ -181,6 +239,7 @@ void Form::HoldFocus(QWidget* field) {
 
 void Form::MoveFocus(QWidget* now) {
   if (now == focused_) return;
+  if (captions_) captions_->Name();
   const QPointer<QWidget> left = focused_;
   focused_ = now;
   if (left) RaiseLostFocus(left, now->objectName());
@@ -215,10 +274,10 @@ void Form::ShowHelpTopic(int context) {
 void Form::BindHelp(int context) {
   // Help changes nothing in the form, so that the field which has the focus is not left for it.
   const auto show = [this, context] { ShowHelpTopic(context); };
-  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, show);
-  if (auto* item = findChild<QAction*>("mnuHelpTopics")) {
-    connect(item, &QAction::triggered, this, show);
-  }
+  auto* item = findChild<QAction*>("mnuHelpTopics");
+  if (!item) addAction(item = new QAction(this));
+  item->setShortcut(QKeySequence::HelpContents);
+  connect(item, &QAction::triggered, this, show);
 }
 
 void Form::BindCommonMenus(int helpContext) {

@@ -3,6 +3,7 @@
 #include <climits>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,12 +11,15 @@
 #include <QPointer>
 
 #include "account/Refusal.h"
+#include "windows/frame/Captions.h"
+#include "windows/frame/FormKeys.h"
 
 class QAbstractButton;
 class QAction;
 class QKeyEvent;
 class QKeySequence;
 class QLineEdit;
+class QPushButton;
 class QRadioButton;
 
 namespace corvane {
@@ -37,7 +41,8 @@ struct NumericRule {
 /// navigation, unload) and its entry rules: a field loses the focus exactly once, when the focus
 /// goes to another control of the form or when a button or menu item is about to act, and never
 /// because a message box or another window came in front. An access key acts at once, on the
-/// control that is captioned with it before a menu that is; F10 opens the first menu.
+/// control that is captioned with it before a menu that is; F10 opens the first menu. Enter presses
+/// the form's button for it, and Escape closes a secondary window as its frame does.
 class Form : public QMainWindow {
   Q_OBJECT
 
@@ -62,6 +67,9 @@ class Form : public QMainWindow {
   /// Shows the refusal's message, then puts the focus on its field with the text selected.
   void Tell(const Refusal& refusal);
 
+  /// Says what happened or is doubtful without stopping the person.
+  void ShowHint(const std::string& text);
+
   /// Puts the focus on a field and selects its text.
   void FocusField(QWidget* field);
 
@@ -80,6 +88,8 @@ class Form : public QMainWindow {
   /// The wiring of a form's handlers. A button and a menu item take the focus before they act, and
   /// do not act when the field that loses it holds on to it, nor when the form is not in front.
   void OnClick(QAbstractButton* button, Handler handler);
+  /// What Enter presses while no other button has the focus: the first that can be pressed.
+  void EnterPresses(const std::vector<QPushButton*>& buttons) { enter_.Choose(buttons); }
   void OnMenu(QAction* item, Handler handler);
   void OnGotFocus(QWidget* field, Handler handler);
   void OnLostFocus(QWidget* field, LostFocusHandler handler);
@@ -94,6 +104,11 @@ class Form : public QMainWindow {
   void SelectTextOnFocus(QLineEdit* field, int characters = INT_MAX);
   /// Rewrites the field "######0.00" when it loses the focus.
   void RewriteOnLeaving(QLineEdit* field);
+
+  /// Lets a masked date field understand separators and copied dates.
+  void BindDate(QLineEdit* field);
+  /// Asks, when the field is left, what its text looks like a slip for; not twice the same.
+  void AskOnLeaving(QLineEdit* field, std::function<std::optional<std::string>()> notice);
 
   /// Keeps a text as it is typed.
   void BindText(QLineEdit* field, std::string& text);
@@ -111,19 +126,25 @@ class Form : public QMainWindow {
 
   void closeEvent(QCloseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
+  void BindKeys();
   void MoveFocus(QWidget* now);
   void RaiseLostFocus(QWidget* field, const QString& next);
   bool TakeFocus(QAbstractButton* button);
   bool CommitFor(QAction* item);
   void NumericChange(QLineEdit* field, const NumericRule& rule);
+  void PasteNumber(QLineEdit* field, const NumericRule& rule, const QString& text);
   bool PressControl(const QKeySequence& accessKey);
   bool RefusesKey(QLineEdit* field, const QKeyEvent& press);
   bool RefusesNumericKey(QLineEdit* field, const QKeyEvent& press, const NumericRule& rule);
 
   WindowRegistry& windows_;
   Role role_;
+  EnterButton enter_{*this};
+  std::optional<Captions> captions_;  ///< once the form has its controls
   QPointer<QWidget> focused_;
   bool focusHeld_ = false;
   std::map<const QWidget*, Handler> gotFocus_;

@@ -16,6 +16,11 @@ namespace corvane {
 
 namespace {
 
+// In percent of the size that the template gives.
+constexpr int kZoomStep = 10;
+constexpr int kLeastZoom = 50;
+constexpr int kMostZoom = 300;
+
 QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -38,6 +43,46 @@ void ReportWindow::PlaceView(QWidget* frame, const QString& viewName) {
   OnClick(print, [this] { Print(); });
   OnMenu(findChild<QAction*>("mnuPrint"), [print] { print->click(); });
   OnMenu(findChild<QAction*>("mnuSave"), [this] { SaveCopy(); });
+  BindKeys();
+  AddViewMenu();
+  Zoom(session().reportZoom);
+}
+
+void ReportWindow::BindKeys() {
+  const std::pair<const char*, QKeySequence::StandardKey> keys[] = {
+      {"mnuSave", QKeySequence::Save},
+      {"mnuPrint", QKeySequence::Print},
+      {"mnuNewAccount", QKeySequence::New}};
+  for (const auto& [name, key] : keys) {
+    if (auto* item = findChild<QAction*>(name)) item->setShortcut(key);
+  }
+}
+
+void ReportWindow::AddViewMenu() {
+  auto* menu = new QMenu("&View", menuBar());
+  menuBar()->insertMenu(findChild<QMenu*>("mnuHelp")->menuAction(), menu);
+  const auto add = [this, menu](const char* name, const char* text, const auto& keys, auto zoom) {
+    QAction* item = menu->addAction(text);
+    item->setObjectName(name);
+    item->setShortcuts(keys);
+    connect(item, &QAction::triggered, this, [this, zoom] { Zoom(zoom(session().reportZoom)); });
+  };
+  using Keys = QList<QKeySequence>;
+  add("mnuZoomIn", "Zoom &In", Keys{Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal},
+      [](int now) { return now + kZoomStep; });
+  add("mnuZoomOut", "Zoom &Out", Keys{Qt::CTRL | Qt::Key_Minus},
+      [](int now) { return now - kZoomStep; });
+  add("mnuZoomNone", "&Actual Size", Keys{Qt::CTRL | Qt::Key_0}, [](int) { return 100; });
+}
+
+void ReportWindow::Zoom(int percent) {
+  int& zoom = session().reportZoom;
+  zoom = std::clamp(percent, kLeastZoom, kMostZoom);
+  view_->SetZoom(zoom);
+}
+
+void ReportWindow::FocusReport() {
+  if (text_) FocusField(view_);
 }
 
 void ReportWindow::BuildReport() {

@@ -22,8 +22,13 @@ class ReportWindow : public Form {
   virtual ReportContent Content() = 0;
   /// Fills the template, tells of unknown tags and failures, and shows the file.
   void BuildReport();
+  /// Lets the keys move in the report, where one was built.
+  void FocusReport();
 
  private:
+  void BindKeys();
+  void AddViewMenu();
+  void Zoom(int percent);
   void Print();
   void SaveCopy();
   bool MayReplace(const std::filesystem::path& chosen, const std::filesystem::path& path);

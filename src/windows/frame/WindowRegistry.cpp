@@ -5,10 +5,14 @@
 #include <QThread>
 
 #include "platform/WorkArea.h"
+#include "windows/frame/MonthAccess.h"
 
 namespace corvane {
 
-WindowRegistry::WindowRegistry(Session& session) : session_(session) {}
+WindowRegistry::WindowRegistry(Session& session) : session_(session) {
+  MakeOptionGroupsAccessible();
+  MakeMonthsAccessible();
+}
 
 WindowRegistry::~WindowRegistry() {
   while (!open_.empty()) {

@@ -26,6 +26,7 @@ AboutWindow::AboutWindow(WindowRegistry& registry)
   ui_->setupUi(this);
   OnClick(ui_->cmdOK, [this] { windows().Close(*this); });
   OnClick(ui_->cmdSysInfo, [this] { cmdSysInfo_Click(); });
+  EnterPresses({ui_->cmdOK});
   BindHelp(kHelpContext);
 }
 

@@ -20,6 +20,7 @@ DisclaimerWindow::DisclaimerWindow(WindowRegistry& registry)
   OnClick(ui_->cmdOK, [this] { routes().LeaveDisclaimer(); });
   OnClick(ui_->cmdAbout, [this] { routes().OpenAbout(); });
   OnClick(ui_->cmdExit, [this] { windows().EndProcess(); });
+  EnterPresses({ui_->cmdOK});
   BindHelp(kHelpContext);
 }
 

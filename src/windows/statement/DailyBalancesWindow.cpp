@@ -48,6 +48,7 @@ DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& registry)
   OnClick(ui_->cmdContinue, [this] { cmdContinue_Click(); });
   OnClick(ui_->cmdClear, [this] { cmdClear_Click(); });
   OnClick(ui_->cmdPrint, [this] { cmdPrint_Click(); });
+  EnterPresses({ui_->cmdNext, ui_->cmdContinue});
   BindCommonMenus(kHelpContext);
 }
 

@@ -2,10 +2,12 @@
 
 #include <QtWidgets>
 
+#include "account/SlipNotice.h"
 #include "platform/Pictures.h"
 #include "support/Clock.h"
 #include "ui_StatementEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
+#include "windows/frame/DateCount.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -21,6 +23,7 @@ StatementEntryWindow::StatementEntryWindow(WindowRegistry& registry)
   ui_->setupUi(this);
   binding_ = std::make_unique<FieldBinding<StatementEntry>>(
       *this, Entry(), [this] { ShowGroups(); }, [this] { FollowChanges(session().statement); });
+  dateCount_ = new DateCount(ui_->txtDateStart);
   BindFields();
   BindButtons();
 }
@@ -48,6 +51,8 @@ void StatementEntryWindow::BindFields() {
     BindNumeric(days, {.enterMovesOn = true});
     OnLostFocus(days, [this](const QString& next) { Days_LostFocus(next); });
   }
+  for (QLineEdit* date : {ui_->txtDateStart, ui_->txtDateEnd}) BindDate(date);
+  AskOnLeaving(ui_->txtDRFactor, [this] { return FactorNotice(Entry().txtDRFactor.text); });
   connect(ui_->txtDRFactor, &QLineEdit::textChanged, this, [this] { txtDRFactor_Change(); });
 }
 
@@ -62,6 +67,7 @@ void StatementEntryWindow::BindButtons() {
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdNewAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdCalculate});
   BindCommonMenus(kHelpContext);
 }
 
@@ -81,6 +87,7 @@ void StatementEntryWindow::Form_Activate() {
 
 void StatementEntryWindow::ShowGroups() {
   const StatementEntry& entry = Entry();
+  dateCount_->Show(PeriodDatesText(session().statement.setup.year, entry));
   ui_->fraIntCalcMethod->setEnabled(!LocksMethod(session().statement.setup));
   ui_->Frame4->setEnabled(entry.basis != BalanceBasis::Equal);
   ui_->cmdComputeLADB->setEnabled(entry.txtADBLedgerBalance.enabled);
@@ -111,17 +118,19 @@ void StatementEntryWindow::Days_LostFocus(const QString& next) {
   });
 }
 
-bool StatementEntryWindow::PickDate(QLineEdit* field) {
-  const Date from = ParseDate(TextOf(field)).value_or(Today());
-  const auto picked = windows().Get<CalendarPopup>().PickDate(from);
+bool StatementEntryWindow::PickDate(QLineEdit* field, const Date& from, const QString& title) {
+  const auto picked = windows().Get<CalendarPopup>().PickDate(from, title);
   if (picked) SetText(field, FormatDate(*picked));
-  return picked.has_value();
+  // A calendar that is closed without a day keeps the date that there was.
+  return TextOf(field) != kEmptyDateMask;
 }
 
 void StatementEntryWindow::ImgCalendar_Click() {
   const DatesToAsk ask = DatesForCalendar(Entry());
-  if (ask.start && !PickDate(ui_->txtDateStart)) return;
-  if (ask.end && !PickDate(ui_->txtDateEnd)) return;
+  const Date start = PeriodStart(Entry(), Today());
+  if (ask.start && !PickDate(ui_->txtDateStart, start, CalendarTitle(true))) return;
+  const Date end = CalendarOfEnd(Entry(), Today());
+  if (ask.end && !PickDate(ui_->txtDateEnd, end, CalendarTitle(false))) return;
   const auto refusal = CountPeriod(session().statement.setup.year, Entry(), PeriodCaller::Calendar);
   binding_->Show();
   if (refusal) Tell(*refusal);

@@ -12,6 +12,8 @@ class StatementEntryWindow;
 
 namespace corvane {
 
+class DateCount;
+
 /// The statement period: dates or days, rate, minimums, balances and the interest that the
 /// statement shows.
 class StatementEntryWindow : public Form {
@@ -35,11 +37,12 @@ class StatementEntryWindow : public Form {
   void Compute_Click(BalanceColumn column);
   void cmdCalculate_Click();
 
-  bool PickDate(QLineEdit* field);
+  bool PickDate(QLineEdit* field, const Date& from, const QString& title);
   bool Passes(const CheckOutcome& outcome);
 
   std::unique_ptr<Ui::StatementEntryWindow> ui_;
   std::unique_ptr<FieldBinding<StatementEntry>> binding_;
+  DateCount* dateCount_ = nullptr;
 };
 
 }  // namespace corvane

@@ -26,6 +26,7 @@ StatementResultsWindow::StatementResultsWindow(WindowRegistry& registry)
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdBack});
   BindCommonMenus(kHelpContext);
 }
 
@@ -38,6 +39,7 @@ void StatementResultsWindow::Form_Load() {
 void StatementResultsWindow::Form_Activate() {
   FocusField(ui_->cmdBack);
   BuildReport();
+  FocusReport();
 }
 
 ReportContent StatementResultsWindow::Content() {
