@@ -1,5 +1,6 @@
 #include "portfolio/CellEntry.h"
 
+#include "account/DateEntry.h"
 #include "disclosure/EntryChecks.h"
 #include "support/NumberText.h"
 
@@ -22,10 +23,6 @@ bool FitsDecimals(std::string_view number, int decimals) {
   return point == number.npos || number.size() - point - 1 <= static_cast<std::size_t>(decimals);
 }
 
-bool IsDigits(std::string_view text) {
-  return text.find_first_not_of("0123456789") == text.npos;
-}
-
 }  // namespace
 
 void Told::Add(const std::optional<Refusal>& notice) {
@@ -40,8 +37,12 @@ bool Told::Refuses(std::optional<Refusal> why) {
 }
 
 std::string Typed(std::string_view cell, const DecimalLimit& limit, Told& told) {
-  // What is no number has nothing to cut, and stays for the checks to refuse.
-  if (FitsDecimals(cell, limit.decimals) || !IsNumeric(cell)) return std::string(cell);
+  if (!IsNumeric(cell)) {
+    // What is no number even so stays for the checks to refuse.
+    const auto number = CleanPastedNumber(cell, limit.kind);
+    return number ? Typed(*number, limit, told) : std::string(cell);
+  }
+  if (FitsDecimals(cell, limit.decimals)) return std::string(cell);
   const LimitedText limited = LimitDecimals(Wide(Trim(cell)), limit.decimals, limit.kind);
   told.Add(limited.message);
   return Narrow(limited.text);
@@ -75,15 +76,10 @@ Refusal NoWordOf(Column column, std::span<const OptionWord> words) {
   return {"The column " + std::string(NameOf(column)) + " has to be one of: " + known + "."};
 }
 
-std::string MaskedDate(std::string_view cell) {
-  std::string text(Trim(cell));
-  if (text.empty()) return std::string(kEmptyDateMask);
-  const bool isIso = text.size() == 10 && text[4] == '-' && text[7] == '-' &&
-                     IsDigits(std::string_view(text).substr(0, 4));
-  if (isIso) return text.substr(5) + "-" + text.substr(0, 4);
-  const bool hasSlashes = text.size() == 10 && text[2] == '/' && text[5] == '/';
-  if (hasSlashes) text[2] = text[5] = '-';
-  return text;
+std::string DateText(std::string_view cell) {
+  if (Trim(cell).empty()) return std::string(kEmptyDateMask);
+  const auto date = ParseDate(cell) ? ParseDate(cell) : ReadPastedDate(cell);
+  return date ? FormatDate(*date) : std::string(cell);
 }
 
 AccountHeader AccountHeaderOf(const PortfolioRow& row) {

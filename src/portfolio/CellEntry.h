@@ -26,7 +26,8 @@ struct Told {
   bool Refuses(std::optional<Refusal> why);
 };
 
-/// Types a cell into a numeric field, which cuts what has too many decimals.
+/// Puts a cell into a numeric field as a paste does: "$1,234.50" gives "1234.50", and what has too
+/// many decimals is cut.
 std::string Typed(std::string_view cell, std::span<const DecimalLimit> limits, const char* control,
                   Told& told);
 std::string Typed(std::string_view cell, const DecimalLimit& limit, Told& told);
@@ -82,9 +83,9 @@ class OptionWords {
   std::vector<const OptionName<Values>*> options_;
 };
 
-/// A date as the masked fields hold it: "2024-01-31" and "01/31/2024" give "01-31-2024"; any other
-/// text stays as it is.
-std::string MaskedDate(std::string_view cell);
+/// A date as its field holds it, read as one that is pasted: "2024-01-31" and "1/31/2024" give
+/// "01-31-2024"; any other text stays as it is.
+std::string DateText(std::string_view cell);
 
 /// The identification texts of a row.
 AccountHeader AccountHeaderOf(const PortfolioRow& row);

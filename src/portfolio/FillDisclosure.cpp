@@ -168,10 +168,10 @@ class Filling {
     const bool typedOnce = !entry.tStartDate.enabled && !open;
     entry.tStartDate.enabled = entry.tEndDate.enabled = open;
     if (open && !row.Cell(Column::StartDate).empty()) {
-      entry.tStartDate.text = MaskedDate(row.Cell(Column::StartDate));
+      entry.tStartDate.text = DateText(row.Cell(Column::StartDate));
     }
     if (open && !row.Cell(Column::EndDate).empty()) {
-      entry.tEndDate.text = MaskedDate(row.Cell(Column::EndDate));
+      entry.tEndDate.text = DateText(row.Cell(Column::EndDate));
     }
     if (!open && !typedOnce) entry.tStartDate.text = entry.tEndDate.text = kEmptyDateMask;
   }

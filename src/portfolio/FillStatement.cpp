@@ -108,8 +108,8 @@ class Filling {
     Entry& entry = check.entry;
     entry = PresentEntry(check.setup, entry);
     ChooseMethod(entry);
-    entry.txtDateStart.text = MaskedDate(Cell(Column::StartDate));
-    entry.txtDateEnd.text = MaskedDate(Cell(Column::EndDate));
+    entry.txtDateStart.text = DateText(Cell(Column::StartDate));
+    entry.txtDateEnd.text = DateText(Cell(Column::EndDate));
     for (const EntryColumn& column : kEntryColumns) Type(entry, column);
     if (!IsTiered(check.setup.kind)) Type(entry, {Column::Rate, &Entry::txtIntRate, "txtIntRate"});
     if (!Goes()) return false;
@@ -155,7 +155,7 @@ class Filling {
     StatementCheck& check = filled_.check;
     if (!account_.days || account_.days->rows.empty()) return true;
     if (!Passes(StartCompute(check, BalanceColumn::Ledger))) return false;
-    const auto first = ParseDate(MaskedDate(account_.days->rows.front().date));
+    const auto first = ParseDate(DateText(account_.days->rows.front().date));
     DailyBalances daily = DaysOf(check, BalanceColumn::Ledger, first.value_or(Date{}));
     if (!TypeDays(daily)) return false;
     FillRates(daily);
@@ -183,7 +183,7 @@ class Filling {
   std::optional<Refusal> TypeDay(DailyBalances& daily, const DayRow& row,
                                  std::vector<bool>& typed) {
     if (*row.damage) return DayRefusal(row, row.damage);
-    const auto date = ParseDate(MaskedDate(row.date));
+    const auto date = ParseDate(DateText(row.date));
     if (!date) return DayRefusal(row, "\"" + row.date + "\" is no date.");
     const int place = DaysBetween(daily.start, *date);
     if (place < 0 || place >= static_cast<int>(daily.days.size())) return std::nullopt;

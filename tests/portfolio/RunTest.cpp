@@ -86,13 +86,14 @@ TEST(PortfolioRun, RefusesFilesThatHaveNoUsableHeader) {
 TEST(PortfolioRun, CarriesOtherCellsThroughAsTheyStandAndReplacesResults) {
   const std::string file =
       "\"account\";verdict;rate;balance;term;disclosed_apy;\"my;remark\"\r\n"
-      "\"A \"\"1\"\"\";REFUSED;\"5.25\";1000;365;5.39;\"=1+1\r\n, and\"\r\n";
+      "\"A \"\"1\"\"\";REFUSED;\"5.25\";\"$1,000\";365;5.39;\"=1+1\r\n, and\"\r\n";
   EXPECT_EQ(
       RunText(file),
       "\"account\";rate;balance;term;disclosed_apy;\"my;remark\";computed_interest;computed_apy;"
       "difference;verdict;note;message;computed_interest_high;computed_apy_high;verdict_high;"
       "computed_average\r\n"
-      "\"A \"\"1\"\"\";\"5.25\";1000;365;5.39;\"=1+1\r\n, and\";53.90;5.39;0.00;OK;;;;;;\r\n");
+      "\"A \"\"1\"\"\";\"5.25\";\"$1,000\";365;5.39;\"=1+1\r\n, "
+      "and\";53.90;5.39;0.00;OK;;;;;;\r\n");
 }
 
 TEST(PortfolioRun, AnAccountOfTooManyRowsIsRefusedToItsLast) {
