@@ -26,6 +26,7 @@ void AddOptions(CLI::App& app, corvane::CheckArguments& arguments) {
   app.add_option("--report", arguments.report, "Writes a report (HTML)");
   app.add_option("--only", arguments.run.only,
                  "Writes only the accounts with violations, or refused")
+      ->option_text("violations|refused")
       ->transform(CLI::CheckedTransformer(std::map<std::string, Only>{
           {"violations", Only::Violations}, {"refused", Only::Refused}}));
   app.add_option("--threads", arguments.run.threads, "How many threads check")

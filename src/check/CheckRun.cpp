@@ -126,7 +126,9 @@ void CheckRun::TellEnd() {
 ExitStatus CheckRun::Run() {
   if (!OpenBalances()) return ExitStatus::FileError;
   for (const std::string& file : arguments_.files) {
-    if (!cancel_ && !CheckFile(file)) return ExitStatus::FileError;
+    if (cancel_ || CheckFile(file)) continue;
+    if (results_.HasFailed()) Finish();
+    return ExitStatus::FileError;
   }
   if (!Finish()) return ExitStatus::FileError;
   TellEnd();

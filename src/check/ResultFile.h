@@ -17,6 +17,7 @@ class ResultFile {
 
   /// False once something could not be written.
   bool Write(std::string_view text);
+  bool HasFailed() const { return file_ ? file_->HasFailed() : error_.has_value(); }
   /// Why the results could not be written.
   std::optional<FileError> Finish();
 
