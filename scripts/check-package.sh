@@ -26,7 +26,8 @@ dpkg-deb --contents "$work"/package/*.deb >"$work/contents"
 version=$(sed -n 's/^project(corvane VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 
 for file in LICENSE THIRD-PARTY.txt README.txt CorvaneWin.chm Disclosed_Report_template.txt \
-  Interest_Report_template.txt Periodic_Statement_Report_template.txt; do
+  Interest_Report_template.txt Periodic_Statement_Report_template.txt \
+  Portfolio_Report_template.txt; do
   [ -s "$place/corvane/$file" ] || fail "The archive lacks $file."
 done
 for file in applications/corvane.desktop metainfo/org.example.corvane.metainfo.xml \
@@ -36,8 +37,9 @@ for file in applications/corvane.desktop metainfo/org.example.corvane.metainfo.x
   grep -q " ./usr/share/$file$" "$work/contents" ||
     fail "The package lacks /usr/share/$file."
 done
-grep -q ' ./usr/bin/corvane -> ../lib/corvane/corvane$' "$work/contents" ||
-  fail "/usr/bin lacks the program."
+for name in corvane corvane-check; do
+  grep -q " ./usr/bin/$name -> ../lib/corvane/$name$" "$work/contents" || fail "/usr/bin lacks $name."
+done
 # A library that came in newly wants its licence told, and maybe its package in README.txt.
 libraries=$(dpkg-deb --field "$work"/package/*.deb Depends | sed 's/([^)]*)//g; s/,/ /g')
 case "$libraries" in
@@ -54,6 +56,8 @@ appstreamcli validate --no-net "$share/metainfo/org.example.corvane.metainfo.xml
 
 # Both answers need no display and no home.
 [ "$(env -i "$program" --version)" = "corvane $version" ] || fail "--version does not answer."
+[ "$(env -i "$program-check" --version)" = "corvane-check $version" ] ||
+  fail "corvane-check --version does not answer."
 env -i "$program" --help | grep -q '^Usage: corvane' || fail "--help does not answer."
 # The program itself stays until it is ended.
 status=0

@@ -6,7 +6,8 @@
 #   scripts/install-packages.sh ci        for all that .ci/run does; also without an argument
 set -eu
 
-for_run="cmake ninja-build g++ qt6-base-dev qt6-pdf-dev qt6-webengine-dev libqpdf-dev libgl-dev libvulkan-dev
+for_run="cmake ninja-build g++ qt6-base-dev qt6-pdf-dev qt6-webengine-dev libgl-dev libvulkan-dev
+  libqpdf-dev libtbb-dev libcli11-dev
   libchm-dev fp-utils fontconfig fonts-dejavu-core"
 for_test="$for_run libgtest-dev"
 for_package="$for_run dpkg-dev file"

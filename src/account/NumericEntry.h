@@ -24,6 +24,13 @@ bool FilterNumericKey(char32_t code, const TypedInto& field);
 /// The text without its first minus sign when that is not the first character.
 std::u16string FixMinusSign(const std::u16string& text);
 
+/// How many decimals a field takes, and the kind of its message.
+struct DecimalLimit {
+  const char* control;
+  int decimals;
+  const char* kind;
+};
+
 /// What LimitDecimals made of a text: the text as it may stay and, if it was cut, the message.
 struct LimitedText {
   std::u16string text;

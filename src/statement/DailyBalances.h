@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "account/NumericEntry.h"
 #include "account/Refusal.h"
 #include "formulas/InterestByDay.h"
 #include "statement/StatementEntry.h"
@@ -18,6 +19,9 @@ struct DayEntry {
   std::string balance;  ///< currency; may be negative
   std::string rate;     ///< percent a year; typed for stepped accounts, else worked out
 };
+
+inline constexpr DecimalLimit kDayBalanceDecimals = {"txtDayBal", 2, "bal"};
+inline constexpr DecimalLimit kDayRateDecimals = {"txtRate", 4, "int"};
 
 /// What the daily window works on: the days of one column, first day at 0.
 struct DailyBalances {

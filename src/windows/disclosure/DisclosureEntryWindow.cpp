@@ -70,9 +70,10 @@ void DisclosureEntryWindow::BindFields() {
     SelectTextOnFocus(findChild<QLineEdit*>(name.control));
   }
   FitToDigits(*ui_->txtDailyRateFactor, FieldLength::kFactor);
-  BindNumeric(ui_->txtBal, {.repairMinus = true, .decimals = 2, .kind = "bal"});
-  BindNumeric(ui_->txtIntRateA, {.repairMinus = true, .decimals = 4, .kind = "int"});
-  BindNumeric(ui_->txtDiscAPY, {.repairMinus = true, .decimals = 2, .kind = "apy"});
+  for (const auto& [control, decimals, kind] : DisclosureEntry::Decimals()) {
+    BindNumeric(findChild<QLineEdit*>(control),
+                {.repairMinus = true, .decimals = decimals, .kind = kind});
+  }
   for (auto* field :
        {ui_->txtBeginMonth, ui_->txtBeginYear, ui_->txtBtwnReqIntWdrwl, ui_->txtWdrwlPeriods}) {
     BindNumeric(field, {});

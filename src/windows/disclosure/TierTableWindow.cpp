@@ -43,7 +43,7 @@ QLineEdit* TierTableWindow::Box(const char* array, int tier) const {
 
 void TierTableWindow::BindRow(int tier) {
   auto* rate = Box("txtInt", tier);
-  BindNumeric(rate, {.decimals = 4, .kind = "int"});
+  BindNumeric(rate, {.decimals = kTierRateDecimals.decimals, .kind = kTierRateDecimals.kind});
   SelectTextOnFocus(rate);
   connect(rate, &QLineEdit::textEdited, this, [this] { rateEdited_ = true; });
   AskOnLeaving(rate, [this, tier] { return TierRateNotice(ReadBoxes(), tier); });
@@ -54,7 +54,9 @@ void TierTableWindow::BindRow(int tier) {
   }
   if (tier == kMostTiers) return;
   auto* bound = Box("txt_bne", tier);
-  BindNumeric(bound, {.repairMinus = true, .decimals = 2, .kind = "bal"});
+  BindNumeric(bound, {.repairMinus = true,
+                      .decimals = kTierBoundDecimals.decimals,
+                      .kind = kTierBoundDecimals.kind});
   SelectTextOnFocus(bound);
   RewriteOnLeaving(bound);
   OnLostFocus(bound, [this, tier](const QString&) { txt_bne_LostFocus(tier); });

@@ -36,8 +36,10 @@ DailyBalancesWindow::~DailyBalancesWindow() = default;
 
 void DailyBalancesWindow::BindFields() {
   for (const auto& [label, balance, rate] : grid_->Rows()) {
-    BindNumeric(balance, {.repairMinus = true, .decimals = 2, .kind = "bal"});
-    BindNumeric(rate, {.repairMinus = true, .decimals = 4, .kind = "int"});
+    for (const auto& [field, limit] :
+         {std::pair(balance, kDayBalanceDecimals), std::pair(rate, kDayRateDecimals)}) {
+      BindNumeric(field, {.repairMinus = true, .decimals = limit.decimals, .kind = limit.kind});
+    }
     FitToDigits(*balance, DayGrid::kBalanceDigits);
     FitToDigits(*rate, DayGrid::kRateDigits);
     for (QLineEdit* field : {balance, rate}) {

@@ -43,13 +43,13 @@ void StatementEntryWindow::BindFields() {
   }
   for (QLineEdit* field :
        {ui_->txtADBLedgerBalance, ui_->txtADBCollectedBalance, ui_->txtMinADB, ui_->txtMinDBal}) {
-    BindNumeric(field, {.repairMinus = true, .decimals = 2, .kind = "bal"});
     RewriteOnLeaving(field);
   }
   FitToDigits(*ui_->txtDRFactor, FieldLength::kFactor);
-  BindNumeric(ui_->txtIntRate, {.repairMinus = true, .decimals = 4, .kind = "int"});
-  BindNumeric(ui_->txtDClApy, {.repairMinus = true, .decimals = 2, .kind = "apy"});
-  BindNumeric(ui_->txtIntAmt, {.repairMinus = true, .decimals = 2, .kind = "userint"});
+  for (const auto& [control, decimals, kind] : StatementEntry::Decimals()) {
+    BindNumeric(findChild<QLineEdit*>(control),
+                {.repairMinus = true, .decimals = decimals, .kind = kind});
+  }
   RewriteOnLeaving(ui_->txtIntAmt);
   for (QLineEdit* days : {ui_->txtLedgerdays, ui_->txtColDays}) {
     BindNumeric(days, {.enterMovesOn = true});
