@@ -5,7 +5,7 @@ import re
 import sys
 
 ORDER = ["support", "formulas", "account", "disclosure", "statement", "reports", "portfolio",
-         "platform", "windows"]
+         "check", "platform", "windows"]
 # Beside its own folder each folder may include these only; a folder not named here, all before it.
 ONLY = {"statement": ORDER[:3], "platform": ["support"]}
 

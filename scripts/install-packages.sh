@@ -1,21 +1,25 @@
 #!/bin/sh
 # Installs the Debian 12 packages that are still missing, as root or with sudo:
-#   scripts/install-packages.sh run    to build and start the program
-#   scripts/install-packages.sh test   to build and run the tests as well
-#   scripts/install-packages.sh ci     for all that .ci/run does; also without an argument
+#   scripts/install-packages.sh run       to build and start the program
+#   scripts/install-packages.sh test      to build and run the tests as well
+#   scripts/install-packages.sh package   to build the archive and the Debian package
+#   scripts/install-packages.sh ci        for all that .ci/run does; also without an argument
 set -eu
 
-for_run="cmake ninja-build g++ qt6-base-dev qt6-webengine-dev libgl-dev libvulkan-dev
+for_run="cmake ninja-build g++ qt6-base-dev qt6-pdf-dev qt6-webengine-dev libgl-dev libvulkan-dev
+  libqpdf-dev libtbb-dev libcli11-dev
   libchm-dev fp-utils fontconfig fonts-dejavu-core"
 for_test="$for_run libgtest-dev"
-for_ci="$for_test libbenchmark-dev clang-format python3"
+for_package="$for_run dpkg-dev file"
+for_ci="$for_test dpkg-dev file libbenchmark-dev clang-format python3 desktop-file-utils appstream"
 
 case "${1:-ci}" in
   run) packages=$for_run ;;
   test) packages=$for_test ;;
+  package) packages=$for_package ;;
   ci) packages=$for_ci ;;
   *)
-    echo "Usage: $0 [run|test|ci]" >&2
+    echo "Usage: $0 [run|test|package|ci]" >&2
     exit 2
     ;;
 esac
@@ -34,7 +38,8 @@ done
 as_root=
 if [ "$(id -u)" -ne 0 ]; then
   if ! command -v sudo >/dev/null; then
-    echo "Missing packages:$missing. Install them as root: apt-get install$missing" >&2
+    echo "Missing packages:$missing" >&2
+    echo "Install them as root, then start again: $(realpath "$0") ${1:-ci}" >&2
     exit 1
   fi
   as_root=sudo

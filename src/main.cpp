@@ -1,16 +1,26 @@
+#include <iostream>
+
 #include <QApplication>
 
+#include "platform/Arguments.h"
 #include "platform/HelpView.h"
 #include "platform/Pictures.h"
 #include "platform/WebView.h"
+#include "support/ProgramVersion.h"
 #include "windows/frame/WindowRegistry.h"
 
 int main(int argc, char** argv) {
+  // Before Qt, which ends the program where there is no display.
+  if (const auto answer = corvane::AnswerTo({argv, static_cast<size_t>(argc)})) {
+    std::cout << *answer;
+    return 0;
+  }
   corvane::PrepareWebView();
   corvane::PrepareHelpView();
   QApplication application(argc, argv);
   QApplication::setApplicationName("corvane");
-  QApplication::setApplicationVersion(CORVANE_VERSION);
+  QApplication::setApplicationVersion(corvane::kProgramVersion);
+  QApplication::setDesktopFileName("corvane");
   QApplication::setWindowIcon(corvane::ProgramIcon());
 
   corvane::Session session;

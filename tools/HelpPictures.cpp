@@ -3,6 +3,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "platform/HelpView.h"
 #include "platform/Pictures.h"
 #include "platform/WebView.h"
 #include "support/Clock.h"
@@ -21,9 +22,10 @@ struct Step {
   QString keys;
   const char* picture = nullptr;
 };
+using Steps = std::vector<Step>;
 
 /// The keys of the topics "A first disclosure" and "A first statement".
-const Step kWalk[] = {
+const Steps kHelpTopics = {
     {"", "disclaimer"},
     {"&a", "about"},
     {"\r"},
@@ -54,6 +56,117 @@ const Step kWalk[] = {
     {"&s", "interest-report"},
 };
 
+constexpr const char* kMostMoney = "9999999999999.99";
+
+/// A disclosure's setup from the main menu on, with the options that are named.
+QString Setup(const QString& options) {
+  return "[cmdAcctAdv] " + options + "[txtName]First Example Bank\tOne-year certificate\tA. Holder";
+}
+
+QString TenTiers() {
+  QString keys = "[cboTotalTiers]1";
+  for (int tier = 1; tier <= 10; ++tier) {
+    keys += QString("[txtInt(%1)]10.1234").arg(tier);
+    if (tier < 10) keys += QString("[txt_bne(%1)]%1").arg(tier) + "00000000000.99";
+  }
+  return keys + "\t";
+}
+
+/// Ten tiers of one method, up to the results.
+Steps Tiers(const QString& option, const std::vector<const char*>& pictures, int entries) {
+  Steps steps = {{Setup("[" + option + "] ")},
+                 {"[cmdNext] "},
+                 {"", pictures[0]},
+                 {TenTiers(), pictures[1]},
+                 {"[cmdCalculate] "}};
+  for (int entry = 1; entry <= entries; ++entry) {
+    steps.push_back({QString("[txtBal]%1[txtDiscAPY]10.65[txtTerm]365\t")
+                         .arg((entry / 2) * 1000000000000.0 + 1000, 0, 'f', 2),
+                     entry == 1 ? pictures[2] : nullptr});
+    steps.push_back({"[cmdNext] ", entry == 1 ? pictures[3] : nullptr});
+  }
+  steps.push_back({"", pictures[4]});
+  steps.push_back({"[cmdExit] "});
+  return steps;
+}
+
+/// A balance and a rate for each of so many days, page by page.
+QString EveryDay(int count) {
+  constexpr int kDaysOfPage = 33;
+  QString keys;
+  for (int day = 0; day < count; ++day) {
+    if (day > 0 && day % kDaysOfPage == 0) keys += "&n";
+    keys += "999999999999.99\t10.1234\t";
+  }
+  return keys;
+}
+
+/// The days of a statement's period, its results and its detail.
+Steps Days(int count, const char* days, const char* period, const char* results,
+           const char* detail) {
+  return {{"[cmdStatement] [txtName]First Example Bank[optStepRate] [cmdNext] "},
+          {"[txtDateStart]04012025[txtMinADB]0[txtMinDBal]0[txtDClApy]6.58[txtLedgerdays]" +
+           QString::number(count) + "\t[cmdComputeLADB] "},
+          {EveryDay(count), days},
+          {"&c"},
+          {"", period},
+          {"&c", results},
+          {"&s", detail},
+          {"&b"},
+          {"&m"}};
+}
+
+/// Every window, in every state that lays it out in another way.
+Steps EveryWindow() {
+  Steps steps = {
+      {"", "disclaimer"},
+      {"&a", "about"},
+      {"\r"},
+      {"&c", "main-menu"},
+      {"&e", "help"},
+      {"[]"},
+      {Setup("[optICNone] "), "setup-no-compounding"},
+      {"[optICDays] [optRegNoDisc] [optRINotReq] ", "setup-days"},
+      {"[cmdNext] "},
+      {QString("[txtDiscAPY]5.39[txtBal]%1[txtIntRateA]5.25[txtTerm]0\t").arg(kMostMoney),
+       "entry-regular"},
+      {"[ImgCalendar(0)] ", "calendar"},
+      {"\x1b"},
+      {"[txtTerm]365\t[cmdCalculateResult] ", "results-regular"},
+      {"[cmdExit] "},
+      {Setup("[optICMonths] [txtDailyCompounding]1[optStepRate] [optRIMonths] "), "setup-months"},
+      {"[cmdNext] "},
+      {QString("[txtTierPerNum]2[txtBeginMonth]11[txtBeginYear]2023[txtDiscAPY]5[txtBal]%1["
+               "txtIntRateA]5"
+               "[txtTerm]6[txtWdrwlPeriods]6[txtBtwnReqIntWdrwl]1\t")
+           .arg(kMostMoney),
+       "entry-stepped-months"},
+      {"[cmdNext] ", "entry-stepped-months-2"},
+      {"[cmdExit] "},
+      {Setup("[optICDays] [optStepRate] [OptRIDays] ")},
+      {"[cmdNext] ", "entry-stepped-days"},
+      {"[cmdExit] "},
+      {"[cmdStatement] ", "statement-setup"},
+      {"[optICNone] [optFormulaYes] [txtDCPeriod]30", "statement-setup-none"},
+      {"[cmdNext] "},
+      {QString(
+           "[txtDateStart]04012025[txtDateEnd]05012025[txtMinADB]%1[txtMinDBal]%1[txtDClApy]6.58"
+           "[txtIntRate]6.3875[optLColl_No] [txtLedgerdays]0\t")
+           .arg(kMostMoney),
+       "statement-period"},
+      {"[cmdExit] "},
+  };
+  for (const Steps& more :
+       {Tiers("optTierA", {"tiers-none", "tiers-a", "entry-tier-a", nullptr, "results-tier-a"}, 10),
+        Tiers("optTierB", {nullptr, "tiers-b", "entry-tier-b", "entry-tier-b-2", nullptr}, 1),
+        Days(1, "days-1", "statement-1", nullptr, nullptr),
+        Days(31, "days-31", "statement-31", "statement-results", "interest-report"),
+        Days(96, "days-96", nullptr, nullptr, nullptr)}) {
+    steps.insert(steps.end(), more.begin(), more.end());
+  }
+  return steps;
+}
+
 /// The window in front. Without a window manager nobody brings back the one behind a window that
 /// has closed.
 QWidget* Front() {
@@ -67,11 +180,29 @@ QWidget* Front() {
   return nullptr;
 }
 
+/// Gives the focus to a control, to type over what it holds; without a name the window closes.
+void FocusOn(QWidget& window, const QString& name) {
+  if (name.isEmpty()) {
+    window.close();
+  } else if (auto* control = window.findChild<QWidget*>(name)) {
+    control->setFocus();
+    if (auto* field = qobject_cast<QLineEdit*>(control)) field->selectAll();
+  } else {
+    qWarning("no control %s in %s", qPrintable(name), qPrintable(window.objectName()));
+  }
+}
+
+/// Types keys; "&c" is Alt+C, "[txtBal]" gives the focus to a control, and "[]" closes the window.
 void Type(const QString& keys) {
   for (qsizetype k = 0; k < keys.size(); ++k) {
     QWidget* window = Front();
     if (keys[k] == '&') {
       QTest::keyClick(window, keys[++k].toUpper().toLatin1(), Qt::AltModifier);
+    } else if (keys[k] == '[') {
+      const qsizetype end = keys.indexOf(']', k);
+      const QString name = keys.mid(k + 1, end - k - 1);
+      k = end;
+      FocusOn(*window, name);
     } else {
       QTest::keyClick(window->focusWidget(), keys[k].toLatin1());
     }
@@ -98,7 +229,8 @@ QImage WithPalette(const QImage& picture) {
   return picture;
 }
 
-bool TakePicture(QWidget* window, const QString& path) {
+/// The picture of a help topic: the window alone, as a small file.
+bool TakeWindow(QWidget* window, const QString& path) {
   // Where it was built is nobody's concern.
   if (auto* config = window->findChild<QPlainTextEdit*>("TextConfig")) {
     const QString folder = QApplication::applicationDirPath();
@@ -108,11 +240,28 @@ bool TakePicture(QWidget* window, const QString& path) {
   return WithPalette(window->grab().toImage()).save(path, "PNG", kSmallestFile);
 }
 
+/// The picture of the whole screen, so that what leaves the screen is missed.
+bool TakeScreen(QWidget* window, const QString& path) {
+  QPixmap picture(window->screen()->size() * window->devicePixelRatio());
+  picture.setDevicePixelRatio(window->devicePixelRatio());
+  picture.fill(Qt::darkCyan);
+  QPainter painter(&picture);
+  for (QWidget* shown : QApplication::topLevelWidgets()) {
+    if (shown->isVisible() && shown != window) painter.drawPixmap(shown->pos(), shown->grab());
+  }
+  painter.drawPixmap(window->pos(), window->grab());
+  return picture.save(path);
+}
+
 /// Goes through the walk, one step each time that the windows have come to rest. A step may open a
 /// window that returns only after later steps have closed it.
 class Walk : public QObject {
  public:
-  explicit Walk(const QString& folder) : folder_(folder) { Rest(); }
+  using Taker = bool (*)(QWidget* window, const QString& path);
+  Walk(Steps steps, Taker take, const QString& folder)
+      : steps_(std::move(steps)), take_(take), folder_(folder) {
+    Rest();
+  }
 
  private:
   void Rest() {
@@ -128,43 +277,72 @@ class Walk : public QObject {
       QTimer::singleShot(0, this, [this] { Rest(); });
       return Type(step_->keys);
     }
-    if (step_->picture && !TakePicture(Front(), PathOfPicture())) {
+    if (step_->picture && !take_(Front(), PathOfPicture())) {
       qWarning("%s was not written", qPrintable(PathOfPicture()));
       return QCoreApplication::exit(1);
     }
     typed_ = false;
-    if (++step_ == std::end(kWalk)) return QCoreApplication::exit();
+    if (++step_ == steps_.end()) return QCoreApplication::exit();
     Rest();
   }
 
   QString PathOfPicture() const { return QDir(folder_).filePath(QString(step_->picture) + ".png"); }
 
-  QString folder_;
-  const Step* step_ = std::begin(kWalk);
+  const Steps steps_;
+  const Taker take_;
+  const QString folder_;
+  Steps::const_iterator step_ = steps_.begin();
   bool typed_ = false;
 };
+
+QPalette DarkPalette() {
+  QPalette palette(QColor(0x31, 0x31, 0x31));
+  palette.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x1e));
+  return palette;
+}
+
+/// A screen of the size of a small one, without a display.
+bool MakeScreen(const QDir& folder) {
+  QFile file(folder.filePath("screen.json"));
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
+  return file.open(QIODevice::WriteOnly) &&
+         file.write(R"({"synchronousWindowSystemEvents": false, "windowFrameMargins": true,
+                       "screens": [{"name": "small", "x": 0, "y": 0, "width": 1024, "height": 768,
+                                    "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})") > 0;
+}
 
 }  // namespace
 
 }  // namespace corvane
 
-/// Takes the pictures of the help topics: goes through the windows with real keys, without a
-/// display, and writes one picture of each into the folder that is given.
+/// Takes pictures of the windows: goes through them with real keys, without a display, and writes
+/// the pictures into the folder that is given: those of the help topics, or of every window on a
+/// small screen in a font of so many points. FOLDER [windows POINTS light|dark]
 int main(int argc, char** argv) {
   using namespace std::chrono;
-  qputenv("QT_QPA_PLATFORM", "offscreen");
   const QTemporaryDir home;
   for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"}) {
     qputenv(name, home.path().toUtf8());
   }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const bool everyWindow = argc > 4;
+  if (everyWindow && !corvane::MakeScreen(home.path())) return 1;
   corvane::PrepareWebView();
+  corvane::PrepareHelpView();
   QApplication application(argc, argv);
-  QApplication::setApplicationVersion(CORVANE_VERSION);
   QApplication::setCursorFlashTime(0);  // the same picture at any time
+  if (everyWindow) {
+    QFont font = QApplication::font();
+    font.setPointSize(atoi(argv[3]));
+    QApplication::setFont(font);
+    if (QByteArrayView(argv[4]) == "dark") QApplication::setPalette(corvane::DarkPalette());
+  }
   corvane::SetToday(year{2025} / May / 2);
   corvane::Session session;
   corvane::WindowRegistry windows(session);
   windows.routes().ShowDisclaimer();
-  const corvane::Walk walk(argc > 1 ? argv[1] : ".");
+  const corvane::Walk walk(everyWindow ? corvane::EveryWindow() : corvane::kHelpTopics,
+                           everyWindow ? corvane::TakeScreen : corvane::TakeWindow,
+                           argc > 1 ? argv[1] : ".");
   return QApplication::exec();
 }

@@ -19,13 +19,13 @@ struct OrderedCheck {
 };
 
 /// The refusal of the first check that fails, in the order of the table. A check whose field is
-/// disabled does not take part: `subject.IsOpen(control)` tells.
+/// disabled does not take part: `subject.IsOpen(control)` tells, and is asked last, for it looks
+/// the field up by its name.
 template <class Subject>
 std::optional<Refusal> FirstFailure(std::span<const OrderedCheck<Subject>> checks,
                                     const Subject& subject) {
   for (const OrderedCheck<Subject>& check : checks) {
-    const bool takesPart = subject.IsOpen(check.field) && check.takesPart(subject);
-    if (takesPart && check.fails(subject)) {
+    if (check.takesPart(subject) && check.fails(subject) && subject.IsOpen(check.field)) {
       return Refusal{check.message, check.field, kKeyEntryError, check.icon};
     }
   }

@@ -16,7 +16,7 @@ bool IsMissingBound(const std::string& text) {
 }
 
 TierRefusal Refuse(std::string text, const char* array, int index) {
-  return {{std::move(text), ElementName(array, index)}};
+  return {{std::move(text), ElementName(array, index)}, index};
 }
 
 bool IsNoRate(const std::string& text) {

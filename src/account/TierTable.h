@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "account/NumericEntry.h"
 #include "account/Refusal.h"
 #include "formulas/AccountTerms.h"
 
@@ -12,6 +13,9 @@ namespace corvane {
 
 inline constexpr int kFewestTiers = 2;
 inline constexpr int kMostTiers = 10;
+
+inline constexpr DecimalLimit kTierRateDecimals = {"txtInt", 4, "int"};
+inline constexpr DecimalLimit kTierBoundDecimals = {"txt_bne", 2, "bal"};
 
 /// The tier table as it was typed. A tier's lower bound is the upper bound of the tier below it;
 /// the first tier has no lower bound and the last no upper one.
@@ -32,6 +36,7 @@ struct TierTable {
 /// Why the table is refused, and whether the box that the refusal names is emptied.
 struct TierRefusal {
   Refusal refusal;
+  int element = 1;  ///< of the field array that the refusal names
   bool clearsBox = true;
 };
 

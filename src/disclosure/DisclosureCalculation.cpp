@@ -1,5 +1,7 @@
 #include "disclosure/DisclosureCalculation.h"
 
+#include <span>
+
 #include "account/DailyRateFactor.h"
 #include "disclosure/EntryChecks.h"
 #include "disclosure/EntrySequence.h"
@@ -10,6 +12,10 @@ namespace corvane {
 namespace {
 
 using Result = Outcome<DisclosureResult>;
+
+std::span<const DisclosureEntry> CompletedEntries(const DisclosureCheck& check) {
+  return std::span(check.entries).first(static_cast<std::size_t>(check.completed));
+}
 
 Deposit DepositOf(const DisclosureEntry& entry) {
   return {.balance = entry.txtBal.Value(),
@@ -33,13 +39,13 @@ ResultRow RowOf(const DisclosureEntry& entry, int number, const Yield& yield) {
           .verdict = CheckApy(disclosed, yield.apy)};
 }
 
-/// A regular account, or all tiers by method A.
-Result ComputeEach(const DisclosureCheck& check) {
+/// A regular account, or the completed tiers by method A.
+Result ComputeEach(const DisclosureCheck& check, const AccountTerms& terms) {
   DisclosureResult result;
   int number = 0;
-  for (const DisclosureEntry& entry : check.entries) {
+  for (const DisclosureEntry& entry : CompletedEntries(check)) {
     const Deposit deposit = DepositOf(entry);
-    const auto yield = RegularYield(TermsOf(check.setup), deposit);
+    const auto yield = RegularYield(terms, deposit);
     if (const auto failure = FailureOf(yield)) return *failure;
     result.rows.push_back(RowOf(entry, ++number, std::get<Yield>(yield)));
     result.interest = result.rows.back().interest;
@@ -63,12 +69,10 @@ ResultRow PeriodRow(const DisclosureCheck& check, int number, double interest) {
 }
 
 /// The completed periods of a stepped account, anew.
-Result ComputePeriods(const DisclosureCheck& check) {
-  std::vector<Deposit> periods;
-  for (int k = 0; k < check.completed; ++k) {
-    periods.push_back(DepositOf(check.entries.at(static_cast<std::size_t>(k))));
-  }
-  const auto computed = SteppedYieldOf(TermsOf(check.setup), periods.front().balance, periods);
+Result ComputePeriods(const DisclosureCheck& check, const AccountTerms& terms) {
+  const std::vector<Deposit> periods = CompletedDeposits(check);
+  if (periods.empty()) return Failure::NotComputable;
+  const auto computed = SteppedYieldOf(terms, periods.front().balance, periods);
   if (const auto failure = FailureOf(computed)) return *failure;
   const auto& [interest, whole] = std::get<SteppedYield>(computed);
   DisclosureResult result{{}, whole.interest, periods.back().factorDays};
@@ -82,15 +86,15 @@ Result ComputePeriods(const DisclosureCheck& check) {
   return result;
 }
 
-/// Every tier end by method B. Term, factor and withdrawals were typed with the first entry and
-/// stand in all.
-Result ComputeTierEnds(const DisclosureCheck& check) {
+/// The completed tier ends by method B. Term, factor and withdrawals were typed with the first
+/// entry and stand in all.
+Result ComputeTierEnds(const DisclosureCheck& check, const AccountTerms& terms) {
   const std::vector<Tier> tiers = TiersOf(check.tiers);
   DisclosureResult result;
   int number = 0;
-  for (const DisclosureEntry& entry : check.entries) {
+  for (const DisclosureEntry& entry : CompletedEntries(check)) {
     const Deposit deposit = DepositOf(entry);
-    const auto yield = TieredYield(TermsOf(check.setup), tiers, deposit);
+    const auto yield = TieredYield(terms, tiers, deposit);
     if (const auto failure = FailureOf(yield)) return *failure;
     const int tier = TierOfEntry(++number);
     ResultRow row = RowOf(entry, tier, std::get<Yield>(yield));
@@ -103,13 +107,21 @@ Result ComputeTierEnds(const DisclosureCheck& check) {
   return result;
 }
 
-Result Compute(const DisclosureCheck& check) {
-  if (check.setup.kind == AccountKind::Stepped) return ComputePeriods(check);
-  if (check.setup.kind == AccountKind::TierB) return ComputeTierEnds(check);
-  return ComputeEach(check);
+}  // namespace
+
+std::vector<Deposit> CompletedDeposits(const DisclosureCheck& check) {
+  std::vector<Deposit> deposits;
+  for (int k = 0; k < check.completed; ++k) {
+    deposits.push_back(DepositOf(check.entries.at(static_cast<std::size_t>(k))));
+  }
+  return deposits;
 }
 
-}  // namespace
+Outcome<DisclosureResult> ComputeResult(const DisclosureCheck& check, const AccountTerms& terms) {
+  if (check.setup.kind == AccountKind::Stepped) return ComputePeriods(check, terms);
+  if (check.setup.kind == AccountKind::TierB) return ComputeTierEnds(check, terms);
+  return ComputeEach(check, terms);
+}
 
 AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry) {
   check.result.reset();
@@ -119,13 +131,20 @@ AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry
   KeepEntry(check, entry);
   ++check.completed;
   if (check.setup.IsTiered() && check.completed < EntryCount(check)) return {};
-  const Result computed = Compute(check);
+  const Result computed = ComputeResult(check, TermsOf(check.setup));
   if (const auto failure = FailureOf(computed)) {
     --check.completed;
     return {RefusalOf(*failure)};
   }
   check.result = std::get<DisclosureResult>(computed);
   return {std::nullopt, true};
+}
+
+std::optional<DisclosureResult> ResultSoFar(const DisclosureCheck& check) {
+  if (check.completed == 0) return std::nullopt;
+  Result computed = ComputeResult(check, TermsOf(check.setup));
+  if (FailureOf(computed)) return std::nullopt;
+  return std::get<DisclosureResult>(std::move(computed));
 }
 
 }  // namespace corvane

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "disclosure/DisclosureCheck.h"
+#include "formulas/Outcome.h"
 
 namespace corvane {
 
@@ -18,5 +20,16 @@ struct AttemptOutcome {
 /// after its last tier. The entry comes back with what the checks write into its fields (the
 /// two-digit month, the counted term). After a refusal nothing more is completed than before.
 AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry);
+
+/// What the formulas take of the completed entries: the periods, tiers or tier ends.
+std::vector<Deposit> CompletedDeposits(const DisclosureCheck& check);
+
+/// The result of the completed entries by these terms, TermsOf(check.setup) or another reading of
+/// them. A stepped account without a completed period has none.
+Outcome<DisclosureResult> ComputeResult(const DisclosureCheck& check, const AccountTerms& terms);
+
+/// What the completed entries come to, before the account is complete; nothing while none is, or
+/// when a formula has no result for them.
+std::optional<DisclosureResult> ResultSoFar(const DisclosureCheck& check);
 
 }  // namespace corvane

@@ -21,10 +21,20 @@ constexpr FieldName<Entry> kFields[] = {
     {"txtBtwnReqIntWdrwl", &Entry::txtBtwnReqIntWdrwl},
 };
 
+constexpr DecimalLimit kDecimals[] = {
+    {"txtBal", 2, "bal"},
+    {"txtIntRateA", 4, "int"},
+    {"txtDiscAPY", 2, "apy"},
+};
+
 }  // namespace
 
 std::span<const FieldName<Entry>> Entry::Fields() {
   return kFields;
+}
+
+std::span<const DecimalLimit> Entry::Decimals() {
+  return kDecimals;
 }
 
 }  // namespace corvane

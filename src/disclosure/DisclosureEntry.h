@@ -4,6 +4,7 @@
 #include <string>
 
 #include "account/Field.h"
+#include "account/NumericEntry.h"
 #include "support/Dates.h"
 
 namespace corvane {
@@ -25,6 +26,7 @@ struct DisclosureEntry {
   Field txtBtwnReqIntWdrwl;  ///< M, or N where interest is withdrawn every so many days
 
   static std::span<const FieldName<DisclosureEntry>> Fields();
+  static std::span<const DecimalLimit> Decimals();
   static std::span<const OptionName<DisclosureEntry>> Options() { return {}; }
 
   bool IsOpen(const char* control) const { return corvane::IsOpen(*this, control); }

@@ -113,7 +113,7 @@ bool YearIsNoYear(const Checked& c) {
   return !year || *year > kLastYear;
 }
 bool YearBefore1901(const Checked& c) {
-  return *WholeNumber(c.entry.txtBeginYear.text) < kFirstYear;
+  return WholeNumber(c.entry.txtBeginYear.text).value_or(kFirstYear) < kFirstYear;
 }
 bool BalanceNotAboveZero(const Checked& c) {
   return c.entry.txtBal.Value() <= 0;

@@ -1,5 +1,6 @@
 #include "disclosure/EntryTerm.h"
 
+#include "account/DateEntry.h"
 #include "formulas/TermCounting.h"
 
 namespace corvane {
@@ -15,6 +16,14 @@ std::optional<int> DaysBetweenDates(const DisclosureSetup& setup, const Disclosu
   const auto end = ParseDate(entry.tEndDate.text);
   if (!start || !end || DaysBetween(*start, *end) <= 0) return std::nullopt;
   return CalendarTermDays(*start, *end, setup.year.countsLeapDay);
+}
+
+/// How the days of a term divide into periods of so many days.
+std::string PeriodsText(int days, int length) {
+  if (length == 1) return "";
+  const std::string each = " periods of " + std::to_string(length) + " days";
+  if (days % length != 0) return ": no whole number of" + each;
+  return ": " + std::to_string(days / length) + each;
 }
 
 bool StepsThroughPeriods(const DisclosureSetup& setup) {
@@ -60,6 +69,16 @@ void CountTerm(const DisclosureSetup& setup, DisclosureEntry& entry) {
   Field& term = entry.txtTerm;
   if (counted || term.workedOut) term.text = counted.value_or("");
   term.workedOut |= counted.has_value();
+}
+
+std::string TermDatesText(const DisclosureSetup& setup, const DisclosureEntry& entry) {
+  const auto start = ParseDate(entry.tStartDate.text);
+  const auto end = ParseDate(entry.tEndDate.text);
+  if (!start || !end) return "";
+  const auto days = DaysBetweenDates(setup, entry);
+  if (!days) return "The end date is not after the start date.";
+  return DateCountText(*start, *end, setup.year.countsLeapDay) +
+         PeriodsText(*days, PeriodLength(setup));
 }
 
 bool IsUsableTerm(const DisclosureSetup& setup, const EntryTerm& term) {

@@ -33,6 +33,10 @@ std::optional<std::string> CountedTermText(const DisclosureSetup& setup,
 /// when they give none.
 void CountTerm(const DisclosureSetup& setup, DisclosureEntry& entry);
 
+/// What the two dates of an entry count, in days and, of an account that compounds every so many
+/// days, in periods; empty while one of them is no date.
+std::string TermDatesText(const DisclosureSetup& setup, const DisclosureEntry& entry);
+
 /// Whether the formulas can take the term: above 0, whole wherever periods are stepped through one
 /// by one, and of no more than 36,600 days or 1,200 months.
 bool IsUsableTerm(const DisclosureSetup& setup, const EntryTerm& term);

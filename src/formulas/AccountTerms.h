@@ -26,11 +26,21 @@ struct YearRule {
   bool countsLeapDay = false;
 };
 
+/// How Appendix A is read where a figure may be held against another one. As it stands here it is
+/// the program's method; what a note compares it with is computed by one of the other readings.
+struct Reading {
+  bool compoundsByPeriods = false;  ///< every N days: once in N days, not every day (Part I.A)
+  bool ownMonths = false;      ///< months as long as the calendar has them, not the beginning year
+  bool ownYear = false;        ///< method B by YearRule::days, not 366 for a leap day (Part I.D)
+  bool exactInterest = false;  ///< the APY of the interest before it is rounded to cents (Part I.A)
+};
+
 /// What holds for the whole account.
 struct AccountTerms {
   Compounding compounding;
   Unit withdrawal = Unit::None;  ///< Days and Months where interest has to be withdrawn
   YearRule year;
+  Reading reading = {};
 };
 
 /// Interest that has to be withdrawn: `periods` times in the term, `apart` months from each other.

@@ -25,9 +25,10 @@ double GrowthOf(double rate, double power) {
   return std::expm1(power * std::log1p(rate));
 }
 
-Outcome<Yield> YieldOf(double interest, double principal, double exponent) {
+Outcome<Yield> YieldOf(const Reading& reading, double interest, double principal, double exponent) {
   const double rounded = RoundToCents(interest);
-  const double apy = 100 * GrowthOf(rounded / principal, exponent);
+  const double counted = reading.exactInterest ? interest : rounded;
+  const double apy = 100 * GrowthOf(counted / principal, exponent);
   if (!IsAmount(rounded) || !IsAmount(principal) || !IsApy(apy)) return Failure::NotComputable;
   return Yield{rounded, RoundToCents(apy)};
 }

@@ -22,9 +22,9 @@ bool IsApy(double apy);
 double GrowthOf(double rate, double power);
 
 /// The general formula of Regulation DD, Appendix A, Part I.A: 100 x ((1 + interest / principal) ^
-/// exponent - 1), of the interest as rounded to cents. Fails where no account has such an interest
-/// or yield.
-Outcome<Yield> YieldOf(double interest, double principal, double exponent);
+/// exponent - 1), of the interest as rounded to cents unless the reading is another. Fails where no
+/// account has such an interest or yield.
+Outcome<Yield> YieldOf(const Reading& reading, double interest, double principal, double exponent);
 
 /// The exponent of the general formula: the days of the year over the days of the term or, with
 /// compounding by years, 1 over its years. `length` is the term as counted: days, or N-year

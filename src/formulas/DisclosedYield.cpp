@@ -42,20 +42,13 @@ double ShareOfTier(std::span<const Tier> tiers, std::size_t k, double balance) {
   return RoundToDecimals(end - tiers[k].above, 6);
 }
 
-double TieredYearDays(const AccountTerms& terms, const Deposit& reaching) {
-  if (terms.compounding.unit == Unit::Months) {
-    return static_cast<int>(reaching.begin.year()) % 4 == 0 ? 366 : 365;
-  }
-  return terms.year.countsLeapDay ? 366 : terms.year.days;
-}
-
 }  // namespace
 
 Outcome<Yield> RegularYield(const AccountTerms& terms, const Deposit& deposit) {
   const auto earned = InterestOfTerm(terms, deposit, Fill::Demanded);
   if (const auto failure = FailureOf(earned)) return *failure;
   const auto& [interest, length] = std::get<TermInterest>(earned);
-  return YieldOf(interest, deposit.balance,
+  return YieldOf(terms.reading, interest, deposit.balance,
                  YieldExponent(terms.compounding, terms.year.days, length));
 }
 
@@ -74,7 +67,7 @@ Outcome<SteppedYield> SteppedYieldOf(const AccountTerms& terms, double balance,
     length += counted;
     total += interest;
   }
-  const auto whole = YieldOf(RoundIntermediate(total), balance,
+  const auto whole = YieldOf(terms.reading, RoundIntermediate(total), balance,
                              YieldExponent(terms.compounding, terms.year.days, length));
   if (const auto failure = FailureOf(whole)) return *failure;
   result.whole = std::get<Yield>(whole);
@@ -96,8 +89,31 @@ Outcome<Yield> TieredYield(const AccountTerms& terms, std::span<const Tier> tier
     interest += std::get<TermInterest>(earned).interest;
     length = std::get<TermInterest>(earned).length;
   }
-  return YieldOf(interest, principal,
-                 YieldExponent(terms.compounding, TieredYearDays(terms, reaching), length));
+  return YieldOf(terms.reading, interest, principal,
+                 YieldExponent(terms.compounding, YearDaysOfMethodB(terms, reaching), length));
+}
+
+int YearDaysOfMethodB(const AccountTerms& terms, const Deposit& reaching) {
+  if (terms.reading.ownYear) return terms.year.days;
+  if (terms.compounding.unit == Unit::Months) {
+    return static_cast<int>(reaching.begin.year()) % 4 == 0 ? 366 : 365;
+  }
+  return terms.year.countsLeapDay ? 366 : terms.year.days;
+}
+
+Outcome<CompositeRate> CompositeRateOf(const AccountTerms& terms,
+                                       std::span<const Deposit> periods) {
+  CompositeRate composite;
+  for (Deposit period : periods) {
+    period.balance = 1;
+    const auto earned = InterestOfTerm(terms, period, Fill::Open);
+    if (const auto failure = FailureOf(earned)) return *failure;
+    const double days = std::get<TermInterest>(earned).length;
+    composite.percent += period.rate * days;
+    composite.days += days;
+  }
+  composite.percent /= composite.days;
+  return composite;
 }
 
 }  // namespace corvane

@@ -27,11 +27,25 @@ Outcome<SteppedYield> SteppedYieldOf(const AccountTerms& terms, double balance,
                                      std::span<const Deposit> periods);
 
 /// A deposit in an account tiered by method B (Part I.D): the part of the balance that lies in a
-/// tier earns the tier's rate. The year has 366 days when 29 February counts or the account has a
-/// 366-day year; by months, when the beginning year is divisible by 4.
+/// tier earns the tier's rate. The year has so many days as YearDaysOfMethodB.
 /// @param tiers lowest first, at least one
 /// @param reaching the whole deposit; its rate is not read
 Outcome<Yield> TieredYield(const AccountTerms& terms, std::span<const Tier> tiers,
                            const Deposit& reaching);
+
+/// The days of the year of an account tiered by method B: 366 when 29 February counts or the
+/// account has a 366-day year; by months, when the beginning year is divisible by 4.
+int YearDaysOfMethodB(const AccountTerms& terms, const Deposit& reaching);
+
+struct CompositeRate {
+  double percent = 0;  ///< a year, unrounded
+  double days = 0;     ///< of the whole term
+};
+
+/// The rates of the periods, each weighted by its days; of one period its rate. It may be disclosed
+/// as the APY of a term over one year whose interest is paid out at least once a year and does not
+/// compound (Part I.E). Not for compounding by years.
+/// @param periods at least one; their balances are not read
+Outcome<CompositeRate> CompositeRateOf(const AccountTerms& terms, std::span<const Deposit> periods);
 
 }  // namespace corvane

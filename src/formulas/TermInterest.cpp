@@ -18,9 +18,8 @@ Outcome<TermInterest> InterestByDays(const AccountTerms& terms, const Deposit& d
   if (terms.withdrawal == Unit::Days) return WithdrawnEveryDays(terms, deposit);
   if (terms.withdrawal == Unit::Months)
     return CompoundedByDaysWithdrawnMonthly(terms, deposit, fill);
-  const double days = deposit.term * terms.compounding.length;
-  const double rate = DailyRate(deposit.rate, deposit.factorDays);
-  return TermInterest{deposit.balance * GrowthOf(rate, days), days};
+  return TermInterest{deposit.balance * GrowthByDays(terms, deposit),
+                      deposit.term * terms.compounding.length};
 }
 
 /// Without withdrawals the periods of the term are its days over the days of one period, so that
@@ -59,6 +58,13 @@ Outcome<TermInterest> InterestOfTerm(const AccountTerms& terms, const Deposit& d
       return TermInterest{balance * GrowthOf(rate * 0.01 * terms.compounding.length, term), term};
   }
   return Failure::NotComputable;
+}
+
+double GrowthByDays(const AccountTerms& terms, const Deposit& deposit) {
+  const double rate = DailyRate(deposit.rate, deposit.factorDays);
+  const int length = terms.compounding.length;
+  return terms.reading.compoundsByPeriods ? GrowthOf(rate * length, deposit.term)
+                                          : GrowthOf(rate, deposit.term * length);
 }
 
 std::optional<int> StepCount(double limit) {

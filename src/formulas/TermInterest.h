@@ -23,6 +23,10 @@ enum class Fill { Demanded, Open };
 /// beginning, for more than a million steps, and for withdrawal periods that do not fill the term.
 Outcome<TermInterest> InterestOfTerm(const AccountTerms& terms, const Deposit& deposit, Fill fill);
 
+/// What a deposit of 1 gains in its term of N-day periods without withdrawals: the daily rate
+/// compounds every day or, where the terms are read so, N times the daily rate once in N days.
+double GrowthByDays(const AccountTerms& terms, const Deposit& deposit);
+
 /// How often a count from 1 up to a limit runs: the whole number below it, 0 for a limit below 1.
 /// Nothing where the limit is no number or above a million, which no real term comes near and
 /// which would keep the user waiting.

@@ -16,9 +16,21 @@ double RoundedFromACent(double value) {
 }
 
 TermInterest WithdrawnOnce(const AccountTerms& terms, const Deposit& deposit) {
-  const double days = deposit.term * terms.compounding.length;
-  const double rate = DailyRate(deposit.rate, deposit.factorDays);
-  return {RoundIntermediate(deposit.balance * GrowthOf(rate, days)), days};
+  return {RoundIntermediate(deposit.balance * GrowthByDays(terms, deposit)),
+          deposit.term * terms.compounding.length};
+}
+
+/// Days of so many months from one on: by the beginning year, or the calendar's own.
+double DaysOfMonths(const AccountTerms& terms, std::chrono::year_month month, int count) {
+  const bool countsLeapDay = terms.year.countsLeapDay;
+  if (terms.reading.ownMonths) return MonthTermDays(month, count, countsLeapDay);
+  return MonthsInDays(month, count, countsLeapDay);
+}
+
+std::chrono::year_month MonthAfter(const AccountTerms& terms, std::chrono::year_month month,
+                                   int count) {
+  return terms.reading.ownMonths ? month + std::chrono::months{count}
+                                 : MonthInSameYear(month, count);
 }
 
 /// Interest of one withdrawal period that compounds day by day.
@@ -34,9 +46,9 @@ double InterestOfMonths(const AccountTerms& terms, double dailyRate, double prin
   const int length = terms.compounding.length;
   double grown = principal;
   for (; compoundings > 0; --compoundings) {
-    const double days = MonthsInDays(month, length, terms.year.countsLeapDay);
+    const double days = DaysOfMonths(terms, month, length);
     grown += RoundIntermediate(dailyRate * grown * days);
-    month = MonthInSameYear(month, length);
+    month = MonthAfter(terms, month, length);
   }
   return grown - principal;
 }
@@ -70,12 +82,14 @@ Outcome<TermInterest> CompoundedByDaysWithdrawnMonthly(const AccountTerms& terms
   const int monthsEach = static_cast<int>(apart);
   std::chrono::year_month month = deposit.begin;
   double total = 0;
+  int counted = 0;
   for (int k = 0; k<*withdrawals&& * totalDays> 0; ++k) {
-    const auto days = static_cast<int>(MonthsInDays(month, monthsEach, countsLeapDay));
+    const auto days = static_cast<int>(DaysOfMonths(terms, month, monthsEach));
     total = RoundIntermediate(total + InterestOfDays(deposit.balance, dailyRate, days));
-    month = MonthInSameYear(month, monthsEach);
+    counted += days;
+    month = MonthAfter(terms, month, monthsEach);
   }
-  return TermInterest{total, deposit.term};
+  return TermInterest{total, deposit.term + (counted - *totalDays)};
 }
 
 Outcome<TermInterest> CompoundedByMonthsWithdrawnMonthly(const AccountTerms& terms,
@@ -95,7 +109,7 @@ Outcome<TermInterest> CompoundedByMonthsWithdrawnMonthly(const AccountTerms& ter
   std::chrono::year_month month = deposit.begin;
   for (int k = 0; k < *withdrawals; ++k) {
     total += InterestOfMonths(terms, dailyRate, deposit.balance, month, *compoundings);
-    month = MonthInSameYear(month, monthsEach);
+    month = MonthAfter(terms, month, monthsEach);
   }
   return TermInterest{total, termDays};
 }

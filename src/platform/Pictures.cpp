@@ -17,7 +17,11 @@ QIcon Picture(const char* path) {
 }  // namespace
 
 QIcon ProgramIcon() {
-  return Picture(":/icons/corvane.png");
+  QIcon icon = Picture(":/icons/corvane.png");
+  for (const char* size : {"16", "24", "32"}) {
+    icon.addFile(QString(":/icons/corvane-") + size + ".png");
+  }
+  return icon;
 }
 
 QPixmap ProgramPicture() {

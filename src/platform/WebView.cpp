@@ -15,9 +15,7 @@
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
-#include "support/Paths.h"
 #include "support/ProgramTitle.h"
-#include "support/WholeFile.h"
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -91,10 +89,6 @@ bool Accepts(QPrinter& printer, QWidget* parent) {
   return QPrintDialog(&printer, parent).exec() == QDialog::Accepted;
 }
 
-int Answer(bool success) {
-  return success ? QDialog::Accepted : QDialog::Rejected;
-}
-
 }  // namespace
 
 // Destroyed in the opposite order: a page must not outlive its profile, nor a profile its guard.
@@ -106,27 +100,20 @@ struct WebView::Browser {
     view.setContextMenuPolicy(Qt::NoContextMenu);
   }
 
-  /// Starts to print, which ends the wait in the box. An engine whose helper is gone ends it too,
-  /// unless the pages are on their way to the printer already.
-  void Print(QPrinter& printer, QDialog& box) {
+  /// Starts to print, which ends the wait in the box. An engine whose helper is gone ends it too.
+  void Print(QPrinter& printer, const PrintedLabels& labels, QDialog& box) {
     if (page.renderProcessPid() == 0) return box.done(QDialog::Rejected);
-    connect(&page, &QWebEnginePage::renderProcessTerminated, &box, [&box, &printer] {
-      if (printer.printerState() != QPrinter::Active) box.done(QDialog::Rejected);
-    });
-    if (printer.outputFormat() == QPrinter::PdfFormat) return PrintToFile(printer, box);
-    connect(&view, &QWebEngineView::printFinished, &box,
-            [&box](bool success) { box.done(Answer(success)); });
-    view.print(&printer);
-  }
-
-  /// A file gets text that can be searched, where the printer would get a picture of the page.
-  void PrintToFile(const QPrinter& printer, QDialog& box) {
-    const auto file = PathOf(printer.outputFileName().toStdString());
-    const auto write = [file, waiting = QPointer<QDialog>(&box)](const QByteArray& pdf) {
-      const bool success = !pdf.isEmpty() && !WriteWholeFile(file, pdf.toStdString());
-      if (waiting) waiting->done(Answer(success));
+    connect(&page, &QWebEnginePage::renderProcessTerminated, &box,
+            [&box] { box.done(QDialog::Rejected); });
+    // Without the box the printer is gone too.
+    const auto deliver = [&printer, labels,
+                          waiting = QPointer<QDialog>(&box)](const QByteArray& pdf) {
+      if (!waiting) return;
+      const QByteArray pages = WithLabels(pdf, printer.pageLayout(), labels);
+      const bool success = !pages.isEmpty() && PrintPages(pages, printer);
+      waiting->done(success ? QDialog::Accepted : QDialog::Rejected);
     };
-    page.printToPdf(write, printer.pageLayout());
+    page.printToPdf(deliver, printer.pageLayout());
   }
 
   OnlyThisFile guard;
@@ -153,6 +140,11 @@ void WebView::ShowFile(const QString& path) {
   Load();
 }
 
+void WebView::SetZoom(int percent) {
+  zoom_ = percent;
+  if (browser_) browser_->page.setZoomFactor(percent / 100.0);
+}
+
 void WebView::ShowNotice(const QString& text) {
   DropBrowser();
   notice_->setText(text);
@@ -164,6 +156,8 @@ void WebView::Load() {
   notice_->hide();
   browser_ = std::make_shared<Browser>();
   layout()->addWidget(&browser_->view);
+  setFocusProxy(&browser_->view);
+  SetZoom(zoom_);
   connect(&browser_->page, &QWebEnginePage::loadFinished, this, &WebView::Loaded);
   connect(&browser_->page, &QWebEnginePage::renderProcessTerminated, this,
           [this] { Loaded(false); });
@@ -178,6 +172,7 @@ void WebView::DropBrowser() {
 
 void WebView::Loaded(bool success) {
   if (success) {
+    SetZoom(zoom_);
     emit Shown(true);
     return;
   }
@@ -192,20 +187,21 @@ void WebView::LoadAgain() {
   emit Shown(false);
 }
 
-bool WebView::Print() {
-  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  if (browser_ && !Accepts(*printer, window())) return true;
+PrintOutcome WebView::Print(const PrintedLabels& labels) {
   const auto printing = browser_;
-  if (!printing) return false;
+  if (!printing) return PrintOutcome::Failed;
+  QPrinter printer(QPrinter::HighResolution);
+  PreparePages(printer);
+  printer.setDocName(labels.title);
+  if (!Accepts(printer, window())) return PrintOutcome::Cancelled;
   PrintingBox box(window());
-  QTimer::singleShot(0, &box, [&] { printing->Print(*printer, box); });
-  const bool printed = box.exec() == QDialog::Accepted;
-  // The browser paints in a thread of its own, which may go on after a print that was given up.
-  if (!printed) static_cast<void>(printer.release());
-  return printed;
+  QTimer::singleShot(0, &box, [&] { printing->Print(printer, labels, box); });
+  return box.exec() == QDialog::Accepted ? PrintOutcome::Printed : PrintOutcome::Failed;
 }
 
 void PrepareWebView() {
+  // On Linux the engine tells screen readers what a page holds only where it is asked to.
+  qputenv("QTWEBENGINE_ENABLE_LINUX_ACCESSIBILITY", "1");
 #ifdef Q_OS_UNIX
   if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 #endif

@@ -4,9 +4,13 @@
 
 #include <QWidget>
 
+#include "platform/PrintedPages.h"
+
 class QLabel;
 
 namespace corvane {
+
+enum class PrintOutcome { Printed, Cancelled, Failed };
 
 /// Shows one local report file and nothing else: scripts and plug-ins are off, nothing is stored,
 /// links do nothing, and no other file or remote address is loaded. The browser behind it is made
@@ -22,12 +26,15 @@ class WebView : public QWidget {
   /// once more; then a notice says that it cannot be shown and where it stands.
   void ShowFile(const QString& path);
 
+  /// Shows the file and those that follow at a percentage of their size; they print at their own.
+  void SetZoom(int percent);
+
   /// Shows a plain sentence in place of a page.
   void ShowNotice(const QString& text);
 
   /// Prints the page after the system's print dialog, and keeps all input away until it is printed.
-  /// False when no page is shown and when the print fails.
-  bool Print();
+  /// It fails also when no page is shown.
+  PrintOutcome Print(const PrintedLabels& labels);
 
  signals:
   /// The page stands on the screen, or could not be loaded.
@@ -44,6 +51,7 @@ class WebView : public QWidget {
   QLabel* notice_;
   std::shared_ptr<Browser> browser_;
   QString path_;
+  int zoom_ = 100;
   bool loadedAgain_ = false;
 };
 

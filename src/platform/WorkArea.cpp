@@ -1,20 +1,38 @@
 #include "platform/WorkArea.h"
 
 #include <QScreen>
+#include <QStyle>
 #include <QWidget>
 
 namespace corvane {
+
+namespace {
+
+/// What the desktop puts around a window. Nobody knows before it has shown one: then there is room
+/// for two title bars, of which the style knows one.
+QSize FrameAround(const QWidget& window) {
+  if (window.isVisible()) return window.frameGeometry().size() - window.size();
+  const int bar = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+  return {bar / 2, 2 * bar};
+}
+
+QPoint PlaceInside(const QRect& area, QRect place) {
+  if (place.right() > area.right()) place.moveRight(area.right());
+  if (place.bottom() > area.bottom()) place.moveBottom(area.bottom());
+  return {qMax(place.left(), area.left()), qMax(place.top(), area.top())};
+}
+
+QSize Fit(QWidget& window, const QSize& area, const QSize& frame) {
+  window.resize(window.size().boundedTo(area - frame));
+  return window.size() + frame;
+}
+
+}  // namespace
 
 QRect WorkArea(const QWidget& window) {
   const QScreen* screen = window.screen();
   if (!screen) return {};
   return screen->availableGeometry().isEmpty() ? screen->geometry() : screen->availableGeometry();
-}
-
-void KeepInsideWorkArea(QWidget& window) {
-  const QRect area = WorkArea(window);
-  if (area.isEmpty()) return;
-  window.resize(window.size().boundedTo(area.size()));
 }
 
 QPoint CenteredPlace(const QRect& workArea, const QSize& window) {
@@ -25,17 +43,25 @@ QPoint CenteredPlace(const QRect& workArea, const QSize& window) {
 }
 
 void CenterInWorkArea(QWidget& window) {
-  KeepInsideWorkArea(window);
-  window.move(CenteredPlace(WorkArea(window), window.size()));
+  const QRect area = WorkArea(window);
+  const QSize framed = Fit(window, area.size(), FrameAround(window));
+  window.move(PlaceInside(area, {CenteredPlace(area, framed), framed}));
 }
 
 void PlaceOver(QWidget& window, const QWidget& other) {
   const QRect area = WorkArea(other);
-  QRect place(QPoint(), window.size());
+  QRect place({}, Fit(window, area.size(), FrameAround(other)));
   place.moveCenter(other.frameGeometry().center());
-  if (place.right() > area.right()) place.moveRight(area.right());
-  if (place.bottom() > area.bottom()) place.moveBottom(area.bottom());
-  window.move(qMax(place.left(), area.left()), qMax(place.top(), area.top()));
+  window.move(PlaceInside(area, place));
+}
+
+void PlaceBeside(QWidget& window, const QPoint& point) {
+  const QRect area = WorkArea(window);
+  const QSize framed = Fit(window, area.size(), FrameAround(window));
+  QRect place(point + QPoint(2, 20), framed);
+  if (place.right() > area.right()) place.moveRight(point.x() - 2);
+  if (place.bottom() > area.bottom()) place.moveBottom(point.y() - 2);
+  window.move(PlaceInside(area, place));
 }
 
 }  // namespace corvane

@@ -11,19 +11,18 @@ namespace corvane {
 /// does not tell.
 QRect WorkArea(const QWidget& window);
 
-/// Makes a window no larger than the work area.
-void KeepInsideWorkArea(QWidget& window);
-
 /// Where a window stands in the middle of the work area. The place is measured from the screen's
 /// top left corner; a window that does not fit stands at the work area's own corner instead.
 QPoint CenteredPlace(const QRect& workArea, const QSize& window);
 
-/// Moves the window to the middle of its screen's work area; where the desktop places windows
-/// itself, nothing happens.
-void CenterInWorkArea(QWidget& window);
+// What follows places a window that is about to show, with the frame that it will have: no larger
+// than the work area, and inside it. Where the desktop places windows itself, only the size counts.
 
-/// Puts a window that is about to show where another one stands, centre over centre, as far as the
-/// work area lets it.
+/// In the middle of its screen's work area.
+void CenterInWorkArea(QWidget& window);
+/// Centre over centre of a window that is shown.
 void PlaceOver(QWidget& window, const QWidget& other);
+/// Below and to the right of a point of the screen, or on its other side where there is no room.
+void PlaceBeside(QWidget& window, const QPoint& point);
 
 }  // namespace corvane

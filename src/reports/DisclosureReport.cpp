@@ -1,7 +1,10 @@
 #include "reports/DisclosureReport.h"
 
+#include "disclosure/DisclosureNotes.h"
+#include "reports/EnteredValues.h"
 #include "reports/HtmlText.h"
 #include "reports/ReportTags.h"
+#include "reports/RuleText.h"
 #include "support/NumberText.h"
 
 namespace corvane {
@@ -49,7 +52,11 @@ Tags TagsOf(const AccountHeader& header, const DisclosureCheck& check, const Dat
       {"^intwd^", {WithdrawalText(check.setup.withdrawal)}},
       {"^cmpdterm^", {CompoundingTerm(check.setup)}},
       {"^PerTier^", {kLineNoHeading}},
+      {"^rule^", {DisclosureRule(check)}},
+      {"^verdict^", {VerdictSentence(result)}},
+      {"^notes^", {NotesHtml(NotesOf(check))}},
   });
+  tags.merge(EnteredTags(check));
   return tags;
 }
 
@@ -72,10 +79,15 @@ std::string PercentText(double percent) {
   return FormatRate(percent) + "%";
 }
 
-/// The rates of all tiers up to this one: "5.25/5.5%".
+constexpr std::size_t kRatesOnALine = 5;
+
+/// The rates of all tiers up to this one: "5.25/5.5%". Behind every fifth rate the line may break.
 std::string ScheduleText(const std::vector<double>& rates) {
   std::string text;
-  for (double rate : rates) text += (text.empty() ? "" : "/") + FormatPlain(rate);
+  for (std::size_t k = 0; k < rates.size(); ++k) {
+    if (k > 0) text += k % kRatesOnALine == 0 ? "/<wbr>" : "/";
+    text += FormatPlain(rates[k]);
+  }
   return text + "%";
 }
 

@@ -24,7 +24,9 @@ std::string_view EntityOf(char c) {
 }
 
 std::string Enclosed(std::string_view start, std::string_view text, std::string_view end) {
-  return std::string(start).append(text).append(end);
+  std::string enclosed;
+  enclosed.reserve(start.size() + text.size() + end.size());
+  return enclosed.append(start).append(text).append(end);
 }
 
 }  // namespace
@@ -59,6 +61,10 @@ std::string PlainCell(std::string_view text) {
   return Enclosed("<TD>", text, "</TD>");
 }
 
+void AddPlainCell(std::string& row, std::string_view text) {
+  row.append("<TD>").append(text).append("</TD>");
+}
+
 std::string BlackCell(std::string_view text) {
   return Enclosed("<TD><Font Color=\"#000000\">", text, "</TD>");
 }
@@ -69,6 +75,26 @@ std::string RedCell(std::string_view text) {
 
 std::string BoldRedCell(std::string_view text) {
   return Enclosed("<TD><b><Font Color=\"#FF0000\">", text, "</b></TD>");
+}
+
+std::string TableCell(std::string_view text) {
+  return Enclosed("<td>", text, "</td>");
+}
+
+void AddTableCell(std::string& row, std::string_view text) {
+  row.append("<td>").append(text).append("</td>");
+}
+
+std::string TableHtml(std::string_view caption, const std::vector<std::string>& headings,
+                      const std::vector<std::string>& rows) {
+  std::string html = "<table><caption>";
+  html.append(caption).append("</caption><thead><tr>");
+  for (const std::string& heading : headings) {
+    html.append("<th scope=\"col\">").append(heading).append("</th>");
+  }
+  html += "</tr></thead><tbody>";
+  for (const std::string& cells : rows) html.append("<tr>").append(cells).append("</tr>");
+  return html + "</tbody></table>";
 }
 
 std::string BoldVerdictCell(Verdict verdict) {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "formulas/CheckApy.h"
 
@@ -27,9 +28,18 @@ inline constexpr std::string_view kEmptyCell = "<TD>&nbsp;</TD>";
 inline constexpr std::string_view kPaddingCell = "<TD> &nbsp; </TD>";
 
 std::string PlainCell(std::string_view text);
+void AddPlainCell(std::string& row, std::string_view text);
 std::string BlackCell(std::string_view text);
 std::string RedCell(std::string_view text);
 std::string BoldRedCell(std::string_view text);
+
+/// A cell of a table that a report holds beside its rows.
+std::string TableCell(std::string_view text);
+void AddTableCell(std::string& row, std::string_view text);
+
+/// Such a table, its rows given as the HTML of their cells.
+std::string TableHtml(std::string_view caption, const std::vector<std::string>& headings,
+                      const std::vector<std::string>& rows);
 
 /// The verdict in black, or bold and red for a violation.
 std::string BoldVerdictCell(Verdict verdict);

@@ -1,8 +1,11 @@
 #include "reports/ReportTags.h"
 
 #include "account/DailyRateFactor.h"
+#include "reports/EnteredValues.h"
 #include "reports/HtmlText.h"
 #include "support/NumberText.h"
+#include "support/ProgramTitle.h"
+#include "support/ProgramVersion.h"
 
 namespace corvane {
 
@@ -20,7 +23,15 @@ Tags CommonTags(const AccountHeader& header, double factorDays, const Date& toda
       {"^depname^", {EscapeHtml(header.description)}},
       {"^rundate^", {FormatDate(today)}},
       {"^drf^", {FormatPlain(factorDays)}},
+      {"^program^", {std::string(kProgramTitle) + " " + kProgramVersion}},
   };
+}
+
+std::string NotesHtml(const Notes& notes) {
+  if (notes.empty()) return "";
+  std::string html = "<section class=\"notes\"><h2>Notes</h2><ul>";
+  for (const Note& note : notes) html += "<li>" + EscapeHtml(NoteText(note)) + "</li>";
+  return html + "</ul></section>";
 }
 
 Tags StatementTags(const AccountHeader& header, const StatementCheck& check, const Date& today) {
@@ -33,6 +44,12 @@ Tags StatementTags(const AccountHeader& header, const StatementCheck& check, con
       {"^intcmpd^", {UnitText(check.setup.compounding)}},
       {"^cmpdterm^", {CompoundingTerm(check.setup)}},
       {"^addapy^", {check.setup.additionalFormula ? "Additional APY" : "No Additional APY"}},
+      {"^minadb^", {DollarText(check.entry.txtMinADB.Value())}},
+      {"^mindbal^", {DollarText(check.entry.txtMinDBal.Value())}},
+      {"^yeardays^", {std::to_string(YearDaysOf(check))}},
+      {"^countleap^", {check.setup.year.countsLeapDay ? "Yes" : "No"}},
+      {"^factor^", {CellText(check.entry.txtDRFactor.text)}},
+      {"^tiers^", {IsTiered(check.setup.kind) ? TierTableHtml(check.tiers) : ""}},
   });
   return tags;
 }

@@ -41,7 +41,7 @@ class Filling {
       const std::size_t second = line.find('^', first + 1);
       if (second == std::string::npos) break;
       const std::size_t length = second - first + 1;
-      const TagValue value = ValueOf(line.substr(first, length));
+      const TagValue& value = ValueOf(line.substr(first, length));
       line.replace(first, length, value.text);
       lineEnd += value.lineEnd;
       first = line.find('^', first);
@@ -49,11 +49,12 @@ class Filling {
     return line + lineEnd;
   }
 
-  TagValue ValueOf(const std::string& tag) {
+  const TagValue& ValueOf(const std::string& tag) {
+    static const TagValue unknown = {"?"};
     const auto known = content_.tags.find(tag);
     if (known != content_.tags.end()) return known->second;
     report_.unknownTags.push_back(tag);
-    return {"?"};
+    return unknown;
   }
 
   const ReportContent& content_;

@@ -2,20 +2,33 @@
 
 #include "reports/HtmlText.h"
 #include "reports/ReportTags.h"
+#include "reports/RuleText.h"
+#include "statement/StatementNotes.h"
 #include "support/NumberText.h"
 
 namespace corvane {
 
 namespace {
 
+std::string EnteredDate(const Field& date) {
+  return ParseDate(date.text) ? date.text : "";
+}
+
 Tags TagsOf(const AccountHeader& header, const StatementCheck& check, const Date& today) {
+  const BalanceColumn basis = BasisColumn(check.entry.basis);
   Tags tags = StatementTags(header, check, today);
   tags.insert({
       {"^Rpt_Type^", {AccountTypeHeading(check.setup.kind)}},
-      {"^minadb^", {DollarText(check.entry.txtMinADB.Value())}},
-      {"^mindbal^", {DollarText(check.entry.txtMinDBal.Value())}},
       {"^intwd^", {""}},
       {"^PerTier^", {kLineNoHeading}},
+      {"^startdate^", {EnteredDate(check.entry.txtDateStart)}},
+      {"^enddate^", {EnteredDate(check.entry.txtDateEnd)}},
+      {"^days^", {FormatPlain(check.entry.Days(basis).Value())}},
+      {"^basis^", {basis == BalanceColumn::Ledger ? "Ledger" : "Collected"}},
+      {"^addperiod^", {CellText(check.setup.txtDCPeriod.text)}},
+      {"^rule^", {StatementRule(check)}},
+      {"^verdict^", {VerdictSentence(check.entry.txtDClApy.Value(), check.result->apy)}},
+      {"^notes^", {NotesHtml(NotesOf(check))}},
   });
   return tags;
 }

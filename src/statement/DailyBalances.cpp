@@ -1,11 +1,11 @@
 #include "statement/DailyBalances.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "account/TierTable.h"
 #include "formulas/AnnualYield.h"
 #include "formulas/DayInterest.h"
-#include "formulas/InterestByDay.h"
 
 namespace corvane {
 
@@ -23,10 +23,14 @@ bool IsNoNumber(const std::string& text) {
   return !Trim(text).empty() && !IsNumeric(text);
 }
 
-Refusal RefusalOfDay(const DailyBalances& daily, std::size_t day, const std::string& what,
-                     const char* fields) {
-  return {"Please enter a valid " + what + " for " + DayLabel(daily, day) + ".",
-          ElementName(fields, static_cast<int>(day % kDaysPerPage))};
+Refusal RefusalOfDay(const DailyBalances& daily, const DayPlace& place) {
+  const char* what = place.isRate ? "rate" : "balance";
+  return {std::string("Please enter a valid ") + what + " for " + DayLabel(daily, place.day) + ".",
+          FieldAt(place)};
+}
+
+bool HasBalance(const DayEntry& day) {
+  return !Trim(day.balance).empty();
 }
 
 std::vector<double> OfEachDay(const DailyBalances& daily, std::string DayEntry::*text) {
@@ -64,15 +68,16 @@ std::optional<Refusal> CheckPage(const DailyBalances& daily, int page) {
   const DaySpan span = DaysOnPage(page, daily.days.size());
   for (std::size_t day = span.first; day < span.end; ++day) {
     const auto& [balance, rate] = daily.days[day];
-    if (IsNoNumber(balance)) return RefusalOfDay(daily, day, "balance", "txtDayBal");
+    if (IsNoNumber(balance)) return RefusalOfDay(daily, {day});
     const bool noRate = IsNoNumber(rate) || NumericValue(rate) < 0;
-    if (daily.TakesRates() && noRate) return RefusalOfDay(daily, day, "rate", "txtRate");
+    if (daily.TakesRates() && noRate) return RefusalOfDay(daily, {day, true});
   }
   return std::nullopt;
 }
 
-void ClearDays(DailyBalances& daily) {
+DailyBalances ClearDays(DailyBalances daily) {
   daily.days.assign(daily.days.size(), {});
+  return daily;
 }
 
 void FillRates(DailyBalances& daily) {
@@ -80,17 +85,40 @@ void FillRates(DailyBalances& daily) {
   for (DayEntry& day : daily.days) day.rate = RuleRate(daily, day);
 }
 
+DaysSummary Summarize(const DailyBalances& daily) {
+  std::vector<double> balances;
+  for (const DayEntry& day : daily.days) {
+    if (HasBalance(day)) balances.push_back(CountedBalance(NumericValue(day.balance)));
+  }
+  return {.entered = balances.size(),
+          .sum = std::accumulate(balances.begin(), balances.end(), 0.0),
+          .average = AverageDailyBalance(balances)};
+}
+
+std::string SummaryText(const DailyBalances& daily) {
+  const auto [entered, sum, average] = Summarize(daily);
+  const std::size_t days = daily.days.size();
+  std::string text = std::to_string(entered) + " of " + std::to_string(days) + " days entered, " +
+                     std::to_string(days - entered) + " empty";
+  if (entered == 0) return text;
+  return text + "  \u00b7  Sum " + FormatGrouped2(sum) + "  \u00b7  Average so far " +
+         FormatGrouped2(average);
+}
+
 std::optional<std::string> EmptyDaysQuestion(const DailyBalances& daily) {
-  const auto empty = std::ranges::count_if(
-      daily.days, [](const DayEntry& day) { return Trim(day.balance).empty(); });
+  const std::size_t empty = daily.days.size() - Summarize(daily).entered;
   if (empty == 0) return std::nullopt;
   return std::to_string(empty) + " of " + std::to_string(daily.days.size()) +
          " days have no balance and count as 0. Compute the average all the same?";
 }
 
+StatementInterest InterestOf(const DailyBalances& daily) {
+  return InterestByDay(daily.account, OfEachDay(daily, &DayEntry::balance),
+                       OfEachDay(daily, &DayEntry::rate));
+}
+
 std::variant<ComputedDays, Refusal> ComputeAdb(const DailyBalances& daily) {
-  const StatementInterest computed = InterestByDay(
-      daily.account, OfEachDay(daily, &DayEntry::balance), OfEachDay(daily, &DayEntry::rate));
+  const StatementInterest computed = InterestOf(daily);
   if (!IsAmount(computed.averageBalance) || !IsAmount(computed.interest.total)) {
     return RefusalOf(Failure::NotComputable);
   }
@@ -108,6 +136,19 @@ DaySpan DaysOnPage(int page, std::size_t dayCount) {
 
 bool HasNextPage(int page, std::size_t dayCount) {
   return DaysOnPage(page, dayCount).end < dayCount;
+}
+
+int PageOf(std::size_t day) {
+  return static_cast<int>(day / kDaysPerPage) + 1;
+}
+
+std::string FieldAt(const DayPlace& place) {
+  return ElementName(place.isRate ? "txtRate" : "txtDayBal",
+                     static_cast<int>(place.day % kDaysPerPage));
+}
+
+const char* ColumnName(BalanceColumn column) {
+  return column == BalanceColumn::Ledger ? "Ledger" : "Collected";
 }
 
 std::string MinimumAdbText(const StatementAccount& account) {

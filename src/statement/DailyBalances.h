@@ -6,7 +6,9 @@
 #include <variant>
 #include <vector>
 
+#include "account/NumericEntry.h"
 #include "account/Refusal.h"
+#include "formulas/InterestByDay.h"
 #include "statement/StatementEntry.h"
 
 namespace corvane {
@@ -17,6 +19,9 @@ struct DayEntry {
   std::string balance;  ///< currency; may be negative
   std::string rate;     ///< percent a year; typed for stepped accounts, else worked out
 };
+
+inline constexpr DecimalLimit kDayBalanceDecimals = {"txtDayBal", 2, "bal"};
+inline constexpr DecimalLimit kDayRateDecimals = {"txtRate", 4, "int"};
 
 /// What the daily window works on: the days of one column, first day at 0.
 struct DailyBalances {
@@ -45,13 +50,27 @@ void TakeDay(DailyBalances& daily, std::size_t day, const DayEntry& row);
 std::optional<Refusal> CheckPage(const DailyBalances& daily, int page);
 
 /// "Clear Data": no day holds anything.
-void ClearDays(DailyBalances& daily);
+DailyBalances ClearDays(DailyBalances daily);
 
 /// Works the rate of every day out anew, on all pages; a stepped account's stay as typed.
 void FillRates(DailyBalances& daily);
 
+/// What is entered so far.
+struct DaysSummary {
+  std::size_t entered = 0;  ///< days with a balance
+  double sum = 0;           ///< currency, of the balances as they count for the average
+  double average = 0;       ///< currency, 2 decimals, of the days entered
+};
+DaysSummary Summarize(const DailyBalances& daily);
+
+/// The summary at the foot of the window: "12 of 31 days entered, 19 empty", sum and average.
+std::string SummaryText(const DailyBalances& daily);
+
 /// What "Compute ADB" asks first where days were left empty.
 std::optional<std::string> EmptyDaysQuestion(const DailyBalances& daily);
+
+/// The average of the days and the interest that each of them earns.
+StatementInterest InterestOf(const DailyBalances& daily);
 
 /// What "Compute ADB" hands back.
 struct ComputedDays {
@@ -76,6 +95,20 @@ struct DaySpan {
 DaySpan DaysOnPage(int page, std::size_t dayCount);
 /// Whether "Next" leads on from a page: while the period has days beyond it.
 bool HasNextPage(int page, std::size_t dayCount);
+
+/// The page that shows a day.
+int PageOf(std::size_t day);
+
+/// A field of the window: of which day, and whether its balance or its rate.
+struct DayPlace {
+  std::size_t day = 0;
+  bool isRate = false;
+};
+/// The control name of a field, which stands on the day's page.
+std::string FieldAt(const DayPlace& place);
+
+/// "Ledger" or "Collected".
+const char* ColumnName(BalanceColumn column);
 
 /// lblMinADB and lblMinBal of the daily window.
 std::string MinimumAdbText(const StatementAccount& account);

@@ -22,16 +22,6 @@ bool LeavesInterestToBeTyped(const DailyBalances& daily, double averageBalance) 
          account.method == BalanceMethod::DailyBalance;
 }
 
-double ApyOf(const StatementCheck& check, double interest) {
-  const StatementEntry& entry = check.entry;
-  const BalanceColumn column = BasisColumn(entry.basis);
-  const double balance = entry.Average(column).Value();
-  const double days = entry.Days(column).Value();
-  const double yearDays = check.setup.year.countsLeapDay ? 366 : 365;
-  if (!check.setup.additionalFormula) return ApyEarned(interest, balance, days, yearDays);
-  return ApyEarnedAdditional(interest, balance, days, yearDays, check.setup.txtDCPeriod.Value());
-}
-
 std::optional<Refusal> TakeResult(StatementCheck& check) {
   const double interest = RoundToCents(check.entry.txtIntAmt.Value());
   const double apy = RoundToCents(ApyOf(check, interest));
@@ -107,12 +97,8 @@ DailyBalances DaysOf(const StatementCheck& check, BalanceColumn column, const Da
                       .basis = check.entry.basis,
                       .start = PeriodStart(check.entry, today),
                       .days = check.days[IndexOf(column)]};
-  const auto count = static_cast<std::size_t>(check.entry.Days(column).Value());
-  if (daily.days.size() == count) {
-    FillRates(daily);
-  } else {
-    daily.days.assign(count, {});
-  }
+  FillRates(daily);
+  daily.days.resize(static_cast<std::size_t>(check.entry.Days(column).Value()));
   return daily;
 }
 
@@ -122,7 +108,7 @@ void FinishCompute(StatementCheck& check, const DailyBalances& daily,
   check.days[IndexOf(daily.column)] = daily.days;
   check.entry.Average(daily.column).text = FormatFixed2(computed.averageBalance);
   if (!computed.interest) return;
-  check.handed = {daily.account, FormatFixed2(*computed.interest)};
+  check.handed = {daily.account, FormatFixed2(*computed.interest), *computed.interest};
   Field& interest = check.entry.txtIntAmt;
   interest.workedOut = !LeavesInterestToBeTyped(daily, computed.averageBalance);
   interest.text = interest.workedOut ? check.handed.text : "";
@@ -141,6 +127,20 @@ CheckOutcome CalculateStatement(StatementCheck& check) {
   if (!outcome.refusal) outcome.refusal = CheckBeforeResult(check);
   if (!outcome.refusal) outcome.refusal = TakeResult(check);
   return outcome;
+}
+
+int YearDaysOf(const StatementCheck& check) {
+  return check.setup.year.countsLeapDay ? 366 : 365;
+}
+
+double ApyOf(const StatementCheck& check, double interest) {
+  const StatementEntry& entry = check.entry;
+  const BalanceColumn column = BasisColumn(entry.basis);
+  const double balance = entry.Average(column).Value();
+  const double days = entry.Days(column).Value();
+  const double yearDays = YearDaysOf(check);
+  if (!check.setup.additionalFormula) return ApyEarned(interest, balance, days, yearDays);
+  return ApyEarnedAdditional(interest, balance, days, yearDays, check.setup.txtDCPeriod.Value());
 }
 
 const InterestDetail* DetailOf(const StatementCheck& check) {

@@ -23,6 +23,7 @@ struct InterestDetail {
 struct HandedInterest {
   StatementAccount account;
   std::string text;
+  double amount = 0;  ///< currency, unrounded
 };
 
 struct StatementResult {
@@ -65,7 +66,7 @@ void FollowChanges(StatementCheck& check);
 CheckOutcome StartCompute(StatementCheck& check, BalanceColumn column);
 
 /// What the daily window works on once StartCompute has passed: the column's days as they were
-/// handed back last when they fit the days of the period, else empty ones.
+/// handed back last, as many as the period has; further ones are empty.
 DailyBalances DaysOf(const StatementCheck& check, BalanceColumn column, const Date& today);
 
 /// The daily window handed back an average: shows it, and the interest unless it belongs to the
@@ -81,6 +82,13 @@ StatementCheck CancelledCompute(StatementCheck before, const DailyBalances& open
 /// the basis (Regulation DD, Appendix A, Part II). A notice does not keep the results from being
 /// shown; after a refusal there is no result.
 CheckOutcome CalculateStatement(StatementCheck& check);
+
+/// The days of the year that the APY earned is for: 366 where 29 February counts, else 365.
+int YearDaysOf(const StatementCheck& check);
+
+/// The APY that such an interest would be, in percent, unrounded: on the average of the basis, by
+/// the additional formula where it applies (Regulation DD, Appendix A, Part II).
+double ApyOf(const StatementCheck& check, double interest);
 
 /// The detail of the result: the days of the last Compute ADB while they were for a column of the
 /// basis, the account has not changed since, and average and days still stand in the entry.

@@ -46,10 +46,21 @@ void EmptyCollected(Entry& entry, bool daysEnabled, bool averageEnabled) {
   entry.txtADBCollectedBalance = {.text = {}, .enabled = averageEnabled};
 }
 
+constexpr DecimalLimit kDecimals[] = {
+    {"txtADBLedgerBalance", 2, "bal"}, {"txtADBCollectedBalance", 2, "bal"},
+    {"txtMinADB", 2, "bal"},           {"txtMinDBal", 2, "bal"},
+    {"txtIntRate", 4, "int"},          {"txtDClApy", 2, "apy"},
+    {"txtIntAmt", 2, "userint"},
+};
+
 }  // namespace
 
 std::span<const FieldName<Entry>> StatementEntry::Fields() {
   return kFields;
+}
+
+std::span<const DecimalLimit> StatementEntry::Decimals() {
+  return kDecimals;
 }
 
 std::span<const OptionName<Entry>> StatementEntry::Options() {

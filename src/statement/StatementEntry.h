@@ -5,6 +5,7 @@
 #include <string>
 
 #include "account/Field.h"
+#include "account/NumericEntry.h"
 #include "account/Refusal.h"
 #include "formulas/StatementAccount.h"
 #include "statement/StatementSetup.h"
@@ -41,6 +42,7 @@ struct StatementEntry {
   BalanceBasis basis = BalanceBasis::Equal;
 
   static std::span<const FieldName<StatementEntry>> Fields();
+  static std::span<const DecimalLimit> Decimals();
   static std::span<const OptionName<StatementEntry>> Options();
 
   bool UsesAdb() const { return method == BalanceMethod::AverageDailyBalance; }

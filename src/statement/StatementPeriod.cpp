@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "account/DateEntry.h"
 #include "formulas/TermCounting.h"
 
 namespace corvane {
@@ -100,6 +101,17 @@ std::optional<Refusal> DaysNotice(const YearRule& year, const StatementEntry& en
   return std::nullopt;
 }
 
+std::string PeriodDatesText(const YearRule& year, const StatementEntry& entry) {
+  const auto days = DaysOfDates(year, entry);
+  if (!days) return "";
+  if (!IsPeriod(days)) {
+    return FormatPlain(*days) + " days from start to end; a period has 1 to " +
+           FormatPlain(kLongestPeriod);
+  }
+  return DateCountText(*ParseDate(entry.txtDateStart.text), *ParseDate(entry.txtDateEnd.text),
+                       year.countsLeapDay);
+}
+
 Date PeriodStart(const StatementEntry& entry, const Date& today) {
   return ParseDate(entry.txtDateStart.text).value_or(today);
 }
@@ -113,6 +125,10 @@ DatesToAsk DatesForCalendar(const StatementEntry& entry) {
   const bool endEmpty = entry.txtDateEnd.text == kEmptyDateMask;
   const bool bothFilled = !startEmpty && !endEmpty;
   return {startEmpty || bothFilled, endEmpty || bothFilled};
+}
+
+Date CalendarOfEnd(const StatementEntry& entry, const Date& today) {
+  return ParseDate(entry.txtDateEnd.text).value_or(PeriodStart(entry, today));
 }
 
 }  // namespace corvane

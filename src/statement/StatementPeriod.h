@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "statement/StatementEntry.h"
@@ -28,6 +29,10 @@ void RecountPeriod(const YearRule& year, StatementEntry& entry);
 /// What is told of typed days that differ from two valid dates.
 std::optional<Refusal> DaysNotice(const YearRule& year, const StatementEntry& entry);
 
+/// What the two dates count, and how many days a period may have where they count others; empty
+/// while one of them is no date.
+std::string PeriodDatesText(const YearRule& year, const StatementEntry& entry);
+
 /// The first day of the period: the start date where it is valid, else today.
 Date PeriodStart(const StatementEntry& entry, const Date& today);
 
@@ -41,5 +46,8 @@ struct DatesToAsk {
   bool end;
 };
 DatesToAsk DatesForCalendar(const StatementEntry& entry);
+
+/// Where the calendar of the end date opens: at it, else at the start date, else today.
+Date CalendarOfEnd(const StatementEntry& entry, const Date& today);
 
 }  // namespace corvane

@@ -1,7 +1,5 @@
 #include "support/Dates.h"
 
-#include <cstdio>
-
 namespace corvane {
 
 using namespace std::chrono;
@@ -23,6 +21,13 @@ int DigitsAt(std::string_view text, std::size_t first, std::size_t length) {
   return number;
 }
 
+/// Puts a number into text[first, first + length), its last digit last.
+void PutDigits(std::string& text, std::size_t first, std::size_t length, unsigned number) {
+  for (std::size_t place = first + length; place-- > first; number /= 10) {
+    text[place] = static_cast<char>('0' + number % 10);
+  }
+}
+
 }  // namespace
 
 std::optional<Date> ParseDate(std::string_view text) {
@@ -38,9 +43,10 @@ std::optional<Date> ParseDate(std::string_view text) {
 }
 
 std::string FormatDate(const Date& date) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%02u-%02u-%04d", static_cast<unsigned>(date.month()),
-                static_cast<unsigned>(date.day()), static_cast<int>(date.year()));
+  std::string text(kEmptyDateMask);
+  PutDigits(text, 0, 2, static_cast<unsigned>(date.month()));
+  PutDigits(text, 3, 2, static_cast<unsigned>(date.day()));
+  PutDigits(text, 6, 4, static_cast<unsigned>(static_cast<int>(date.year())));
   return text;
 }
 

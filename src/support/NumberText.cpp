@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 #include "support/Rounding.h"
 
@@ -11,7 +12,9 @@ namespace corvane {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
 
 /// The value with so many decimals, rounded by the one rule; no locale decides its decimal point,
 /// and nothing is left of the sign of a zero.
@@ -36,26 +39,8 @@ std::string Grouped(std::string text) {
   return text;
 }
 
-bool HasNumberForm(std::string_view text) {
-  if (!text.empty() && (text.front() == '+' || text.front() == '-')) text.remove_prefix(1);
-  int digits = 0;
-  int points = 0;
-  for (char c : text) {
-    if (c == '.') {
-      ++points;
-    } else if (c >= '0' && c <= '9') {
-      ++digits;
-    } else {
-      return false;
-    }
-  }
-  return digits > 0 && points <= 1;
-}
-
-/// The number, or nothing when the text is none or a double cannot hold it; 0 would be wrong there.
-std::optional<double> Parsed(std::string_view text) {
-  text = Trim(text);
-  if (!HasNumberForm(text)) return std::nullopt;
+/// The number of a text that is none of 15 digits or fewer but has their form.
+std::optional<double> ParsedLong(std::string_view text) {
   if (text.front() == '+') text.remove_prefix(1);
   double value = 0;
   const auto read =
@@ -65,12 +50,57 @@ std::optional<double> Parsed(std::string_view text) {
   return isHuge ? std::nullopt : std::optional(value);
 }
 
+/// Takes the digits at the beginning of a text away from it and appends them to the number. How
+/// many.
+int TakeDigits(std::string_view& text, std::uint64_t& number) {
+  const auto* at = text.begin();
+  for (; at != text.end() && *at >= '0' && *at <= '9'; ++at) {
+    number = number * 10 + static_cast<std::uint64_t>(*at - '0');
+  }
+  const auto count = at - text.begin();
+  text.remove_prefix(static_cast<std::size_t>(count));
+  return static_cast<int>(count);
+}
+
+/// The number, or nothing when the text is none or a double cannot hold it; 0 would be wrong there.
+std::optional<double> Parsed(std::string_view text) {
+  // Up to here a double holds digits and power of ten as they are, and their quotient is the
+  // nearest one to the decimal number.
+  constexpr int kExactDigits = 15;
+  constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  text = Trim(text);
+  std::string_view rest = text;
+  if (!rest.empty() && (rest.front() == '+' || rest.front() == '-')) rest.remove_prefix(1);
+  std::uint64_t number = 0;
+  const int whole = TakeDigits(rest, number);
+  const bool hasPoint = !rest.empty() && rest.front() == '.';
+  if (hasPoint) rest.remove_prefix(1);
+  const int decimals = hasPoint ? TakeDigits(rest, number) : 0;
+  if (!rest.empty() || whole + decimals == 0) return std::nullopt;
+  if (whole + decimals > kExactDigits) return ParsedLong(text);
+  const double value = static_cast<double>(number) / kPowers[decimals];
+  return text.front() == '-' ? -value : value;
+}
+
 }  // namespace
 
 std::string_view Trim(std::string_view text) {
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+std::string WithKeyboardSigns(std::string_view text) {
+  constexpr std::pair<std::string_view, std::string_view> kSigns[] = {
+      {"\u00a0", " "}, {"\u2007", " "}, {"\u2009", " "}, {"\u202f", " "}, {"\u2212", "-"}};
+  std::string plain(text);
+  for (const auto& [sign, key] : kSigns) {
+    for (auto at = plain.find(sign); at != plain.npos; at = plain.find(sign, at)) {
+      plain.replace(at, sign.size(), key);
+    }
+  }
+  return plain;
 }
 
 bool IsNumeric(std::string_view text) {
@@ -88,8 +118,8 @@ std::optional<std::int16_t> WholeNumber(double value) {
 }
 
 std::optional<std::int16_t> WholeNumber(std::string_view text) {
-  if (!IsNumeric(text)) return std::nullopt;
-  return WholeNumber(NumericValue(text));
+  const auto number = Parsed(text);
+  return number ? WholeNumber(*number) : std::nullopt;
 }
 
 bool IsWhole(double value) {
@@ -98,6 +128,10 @@ bool IsWhole(double value) {
 
 std::string FormatFixed2(double value) {
   return FixedText(value, 2);
+}
+
+std::string FormatFixed6(double value) {
+  return FixedText(value, 6);
 }
 
 std::string FormatGrouped2(double value) {

@@ -10,6 +10,10 @@ namespace corvane {
 /// Text without the blanks at its ends.
 std::string_view Trim(std::string_view text);
 
+/// The text (UTF-8) with blanks that do not break, narrow blanks and the minus sign of other
+/// programs as those of the keyboard.
+std::string WithKeyboardSigns(std::string_view text);
+
 /// True when the text, blanks trimmed, is an optional sign, digits and at most one point, with at
 /// least one digit. Thousands commas, exponents and currency signs make it no number, and so does a
 /// size that a double cannot hold; the decimal point is "." in every locale.
@@ -30,6 +34,7 @@ bool IsWhole(double value);
 // exact half goes to the even neighbour) and use "." whatever the locale.
 
 std::string FormatFixed2(double value);     ///< "######0.00": 1234.5 gives 1234.50
+std::string FormatFixed6(double value);     ///< "######0.000000": the interest of a day
 std::string FormatGrouped2(double value);   ///< "##,##0.00": 1234.5 gives 1,234.50
 std::string FormatRate(double value);       ///< "######0.00##": 5 gives 5.00, 5.1234 stays
 std::string FormatTerm(double value);       ///< "#.00": 0.5 gives .50

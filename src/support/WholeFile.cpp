@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <fstream>
 #include <system_error>
+#include <utility>
 
 #if __has_include(<unistd.h>)
 #include <unistd.h>
@@ -79,32 +80,6 @@ bool Sync([[maybe_unused]] std::FILE* stream) {
 #endif
 }
 
-/// Fills and closes the file. Why that failed; empty for success.
-std::string Fill(std::FILE* stream, std::string_view content) {
-  errno = 0;
-  const bool filled = std::fwrite(content.data(), 1, content.size(), stream) == content.size() &&
-                      std::fflush(stream) == 0 && Sync(stream);
-  const std::string reason = filled ? "" : LastReason();
-  std::fclose(stream);
-  return reason;
-}
-
-/// Puts a new file in the place of this one, or of none. Why that failed; empty for success.
-std::string Replace(const path& file, std::string_view content) {
-  const NewFile beside = MakeBeside(file);
-  if (!beside.stream) return LastReason();
-  std::error_code failure;
-  const auto replaced = std::filesystem::status(file, failure);
-  // Before the content: nobody reads it who could not read the old one.
-  if (exists(replaced)) std::filesystem::permissions(beside.name, replaced.permissions(), failure);
-  std::string reason = Fill(beside.stream, content);
-  failure.clear();
-  if (reason.empty()) std::filesystem::rename(beside.name, file, failure);
-  if (failure) reason = failure.message();
-  if (!reason.empty()) std::filesystem::remove(beside.name, failure);
-  return reason;
-}
-
 }  // namespace
 
 std::variant<std::string, FileError> ReadWholeFile(const path& file) {
@@ -123,11 +98,50 @@ std::variant<std::string, FileError> ReadWholeFile(const path& file) {
 }
 
 std::optional<FileError> WriteWholeFile(const path& file, std::string_view content) {
-  const path followed = Followed(file);
-  std::string reason = WhyNotReplaced(followed);
-  if (reason.empty()) reason = Replace(followed, content);
-  if (reason.empty()) return std::nullopt;
-  return FileError{file, reason};
+  PiecewiseFile whole(file);
+  whole.Write(content);
+  return whole.Finish();
+}
+
+PiecewiseFile::PiecewiseFile(const path& file) : file_(file), target_(Followed(file)) {
+  reason_ = WhyNotReplaced(target_);
+  if (HasFailed()) return;
+  const NewFile beside = MakeBeside(target_);
+  beside_ = beside.name;
+  stream_ = beside.stream;
+  if (!stream_) {
+    reason_ = LastReason();
+    return;
+  }
+  std::error_code failure;
+  const auto replaced = std::filesystem::status(target_, failure);
+  // Before the content: nobody reads it who could not read the old one.
+  if (exists(replaced)) std::filesystem::permissions(beside_, replaced.permissions(), failure);
+}
+
+PiecewiseFile::~PiecewiseFile() {
+  if (!stream_) return;
+  std::fclose(stream_);
+  std::error_code failure;
+  std::filesystem::remove(beside_, failure);
+}
+
+void PiecewiseFile::Write(std::string_view piece) {
+  if (HasFailed()) return;
+  errno = 0;
+  if (std::fwrite(piece.data(), 1, piece.size(), stream_) != piece.size()) reason_ = LastReason();
+}
+
+std::optional<FileError> PiecewiseFile::Finish() {
+  errno = 0;
+  if (!HasFailed() && (std::fflush(stream_) != 0 || !Sync(stream_))) reason_ = LastReason();
+  if (stream_) std::fclose(std::exchange(stream_, nullptr));
+  std::error_code failure;
+  if (!HasFailed()) std::filesystem::rename(beside_, target_, failure);
+  if (failure) reason_ = failure.message();
+  if (!HasFailed()) return std::nullopt;
+  if (!beside_.empty()) std::filesystem::remove(beside_, failure);
+  return FileError{file_, reason_};
 }
 
 std::vector<std::string> LinesOf(std::string_view text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -23,6 +24,28 @@ std::variant<std::string, FileError> ReadWholeFile(const std::filesystem::path& 
 /// the old file is kept, and a write-protected file is not replaced.
 std::optional<FileError> WriteWholeFile(const std::filesystem::path& file,
                                         std::string_view content);
+
+/// A file that is written piece by piece and takes its place when all of it is there, as
+/// WriteWholeFile does it. Without Finish nothing is left of it.
+class PiecewiseFile {
+ public:
+  /// Makes the new file beside the one that it is to replace.
+  explicit PiecewiseFile(const std::filesystem::path& file);
+  ~PiecewiseFile();
+  PiecewiseFile(const PiecewiseFile&) = delete;
+  PiecewiseFile& operator=(const PiecewiseFile&) = delete;
+
+  /// Adds a piece; does nothing once something failed.
+  void Write(std::string_view piece);
+  /// Puts the file in its place. Why that, or an earlier step, failed.
+  std::optional<FileError> Finish();
+  bool HasFailed() const { return !reason_.empty(); }
+
+ private:
+  std::filesystem::path file_, target_, beside_;
+  std::FILE* stream_ = nullptr;
+  std::string reason_;
+};
 
 /// The lines of a text, whether they end in CR LF or in LF alone; an end behind the last one starts
 /// no further line.

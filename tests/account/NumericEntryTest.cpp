@@ -53,5 +53,45 @@ TEST(NumericEntry, TooManyDecimalsAreCutWithTheMessageOfTheirKind) {
   }
 }
 
+TEST(NumericEntry, ACopiedNumberIsTakenAsItWouldBeTypedAndADoubtfulOneNotAtAll) {
+  const struct {
+    const char* kind;
+    std::vector<const char*> pasted;
+    const char* number;  ///< empty where it is refused
+  } cases[] = {
+      {"bal",
+       {"1234.56", "$1,234.56", " 1234.56\r\n", "1234.56\t", "\u00a01,234.56\u202f", "$ 1234.56"},
+       "1234.56"},
+      {"bal", {"-$5.00", "$-5.00", "\u22125.00", "- 5.00"}, "-5.00"},
+      {"userint", {"1,234,567", "1234567", "$1,234,567"}, "1234567"},
+      {"int", {"5.25%", "5.25 %", "5.25\u00a0%\n", "5.25"}, "5.25"},
+      {"apy", {"-.5%", "-.5"}, "-.5"},
+      {"", {"1,220", "1220\n"}, "1220"},
+      {"bal",
+       {"1.234,56", "1,23",      "1,2345", "1,234,5",  "0,123",      ",123",       "1234,567",
+        "1,,234",   "1.234,567", "1 2",    "1 234.56", "1\u00a0234", "1.00\n2.00", "1\t2",
+        "(5.00)",   "5.00-",     "5-3",    "--5",      "-$-5",       "1.2.3",      "$",
+        "-",        ".",         "",       " ",        "\u00a0",     "1e5",        "N/A",
+        "5%",       "\u20ac5",   "0x1F",   "\uff15",   "+5",         "\xa0"},
+       ""},
+      {"int", {"$5.25", "5,125", "1,234%", "5.25%%", "5%5", "%"}, ""},
+      {"", {"$5", "5%"}, ""},
+  };
+  for (const auto& c : cases) {
+    for (const char* pasted : c.pasted) {
+      EXPECT_EQ(CleanPastedNumber(pasted, c.kind).value_or(""), c.number) << c.kind << pasted;
+    }
+  }
+}
+
+TEST(NumericEntry, APasteIntoATextLeavesANumberOrIsRefused) {
+  const TypedInto whole{u"9.99", 0, 4}, end{u"9.9", 3, 0}, front{u"9.9", 0, 0}, part{u"9.9", 1, 1};
+  EXPECT_EQ(PastedNumber(whole, "$1,000.50", "bal"), "1000.50");
+  EXPECT_EQ(PastedNumber(front, "-1", "bal"), "-1");
+  EXPECT_EQ(PastedNumber(part, ".5", "bal"), ".5");
+  EXPECT_EQ(PastedNumber(end, ".5", "bal"), std::nullopt);
+  EXPECT_EQ(PastedNumber(end, "-5", "bal"), std::nullopt);
+}
+
 }  // namespace
 }  // namespace corvane

@@ -2,6 +2,7 @@
 
 #include "CheckTable.h"
 #include "statement/EntryChecks.h"
+#include "statement/StatementNotes.h"
 
 namespace corvane {
 namespace {
@@ -44,6 +45,7 @@ class Person {
     if (name == "Collected") return FirstDay(Collected);
     if (name == "factor") return FormatPlain(AccountOf(check_).factorDays);
     if (name == "result") return Result();
+    if (name == "notes") return ShownNotes();
     const std::string chosen = ShownBy(choices_, name);
     return chosen.starts_with("no control") ? ShownBy(check_.entry, name) : chosen;
   }
@@ -104,6 +106,18 @@ class Person {
     const auto& [interest, apy, verdict] = *check_.result;
     return FormatPlain(interest) + " " + FormatPlain(apy) +
            (verdict == Verdict::Ok ? " OK" : " VIOLATION");
+  }
+
+  std::string ShownNotes() const {
+    std::string text;
+    for (const auto& [kind, figures, count, all] : NotesOf(check_)) {
+      text += kind == NoteKind::BothMinimums ? "minimums" : "cents";
+      for (const NoteFigure& figure : figures) {
+        text += " " + FormatFixed2(figure.other) + "/" + FormatFixed2(figure.computed);
+        if (figure.turnsTo == Verdict::Ok) text += " OK";
+      }
+    }
+    return text.empty() ? "none" : text;
   }
 
   StatementCheck check_;

@@ -1,6 +1,8 @@
+#include "platform/MessageBox.h"
 #include "platform/ProgramFolder.h"
 #include "support/Paths.h"
 #include "windows/WindowTest.h"
+#include "windows/disclosure/DisclosureSetupWindow.h"
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
 #include "windows/start/MainMenu.h"
@@ -27,10 +29,10 @@ class Navigation : public WindowTest {
       QCoreApplication::sendEvent(window, &event);
     }
   }
-  void PressEnter(quint64 milliseconds, bool held) {
+  static void PressEnter(const QWidget& window, quint64 milliseconds, bool held = false) {
     QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, {}, "\r", held);
     event.setTimestamp(milliseconds);
-    QCoreApplication::sendEvent(Front()->windowHandle(), &event);
+    QCoreApplication::sendEvent(window.windowHandle(), &event);
   }
 };
 
@@ -56,13 +58,31 @@ TEST_F(Navigation, ADoubleClickThatChangesTheWindowIsOnePress) {
 
 TEST_F(Navigation, AKeyThatChangesTheWindowActsOnceWhetherPressedTwiceOrHeld) {
   Open<DisclaimerWindow>();
-  PressEnter(5000, false);
+  PressEnter(*Front(), 5000);
   InFront<MainMenu>();
-  PressEnter(5200, false);
-  PressEnter(9000, true);
+  PressEnter(*Front(), 5200);
+  PressEnter(*Front(), 9000, true);
   EXPECT_TRUE(IsVisible<MainMenu>());
-  PressEnter(15000, false);
+  PressEnter(*Front(), 15000);
   EXPECT_FALSE(IsVisible<MainMenu>());
+}
+
+TEST_F(Navigation, TheKeyThatRaisesAMessageNeitherClosesItNorRaisesItAgain) {
+  Open<DisclosureSetupWindow>();
+  Get<QLineEdit>("txtDailyCompounding")->setText("32768");
+  int messages = 0;
+  SetMessageBoxObserver([&messages](QMessageBox& box) {
+    ++messages;
+    PressEnter(box, 5200);
+    PressEnter(box, 9000, true);
+    EXPECT_TRUE(box.isVisible());
+    PressEnter(box, 15000);
+    EXPECT_FALSE(box.isVisible());
+  });
+  PressEnter(*Front(), 5000);
+  PressEnter(*Front(), 15200);
+  PressEnter(*Front(), 16000, true);
+  EXPECT_EQ(messages, 1);
 }
 
 TEST_F(Navigation, AWindowThatIsLeftOrBelowAnotherTakesNoInput) {

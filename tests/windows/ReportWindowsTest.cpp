@@ -38,12 +38,42 @@ class ReportWindows : public WindowTest {
   }
 };
 
-TEST_F(ReportWindows, TheBrowserShowsTheReport) {
+/// Whether a screen reader finds the text below a part.
+bool IsReadable(const QAccessibleInterface* part, const QString& text) {
+  if (!part || !part->isValid()) return false;
+  if (part->text(QAccessible::Name).contains(text)) return true;
+  for (int index = 0; index < part->childCount(); ++index) {
+    if (IsReadable(part->child(index), text)) return true;
+  }
+  return false;
+}
+
+TEST_F(ReportWindows, TheBrowserShowsTheReportForEyesEarsAndKeys) {
   Compute();
   auto* view = Get<WebView>("WebView");
   QSignalSpy shown(view, &WebView::Shown);
   ASSERT_TRUE(shown.wait(20000));
   EXPECT_TRUE(shown.front().front().toBool());
+  // As a screen reader does when it starts.
+  QAccessible::setActive(true);
+  auto* const report = QAccessible::queryAccessibleInterface(view);
+  EXPECT_TRUE(QTest::qWaitFor([report] { return IsReadable(report, "5.39%"); }, 20000));
+  EXPECT_TRUE(view->isAncestorOf(QApplication::focusWidget()));
+  const auto* browser = view->focusProxy();
+  for (const auto& [key, zoom] : {std::pair{Qt::Key_Plus, 1.1},
+                                  {Qt::Key_Equal, 1.2},
+                                  {Qt::Key_Minus, 1.1},
+                                  {Qt::Key_0, 1.0},
+                                  {Qt::Key_Minus, 0.9}}) {
+    Key(key, Qt::ControlModifier);
+    EXPECT_NEAR(browser->property("zoomFactor").toDouble(), zoom, 1e-6);
+  }
+  Key(Qt::Key_Return);
+  InFront<DisclosureEntryWindow>();
+  Key(Qt::Key_Return);
+  InFront<DisclosureResultsWindow>();
+  EXPECT_NEAR(Get<WebView>("WebView")->focusProxy()->property("zoomFactor").toDouble(), 0.9, 1e-6);
+  QAccessible::setActive(false);
 }
 
 TEST_F(ReportWindows, SaveAsWritesThePageUnderTheFixedName) {

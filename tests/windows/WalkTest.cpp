@@ -1,3 +1,5 @@
+#include "TemporaryFolder.h"
+#include "platform/OpenDialog.h"
 #include "windows/WindowTest.h"
 #include "windows/start/MainMenu.h"
 
@@ -94,6 +96,18 @@ QPoint PlaceOf(const QString& text) {
   return {text.section(',', 0, 0).toInt(), text.section(',', 1).toInt()};
 }
 
+/// The keys of the keyboard that a character or a chord such as Alt+C takes.
+int KeysOf(const QChar& letter) {
+  return letter.isUpper() || QString("~!@#$%^&*()_+{}|:\"<>?").contains(letter) ? 2 : 1;
+}
+int KeysOf(const QKeyCombination& chord) {
+  return 1 + static_cast<int>(qPopulationCount(chord.keyboardModifiers().toInt()));
+}
+
+QString Unescaped(QString text) {
+  return text.replace("\\n", "\n").replace("\\t", "\t");
+}
+
 /// A person's way through the windows, from the main menu on, as a file in walks tells it line by
 /// line; docs/testing.md lists the words.
 class Walk : public WindowTest {
@@ -136,9 +150,16 @@ class Walk : public WindowTest {
        Each([this](auto& name, auto& place) { DoubleClick(name, PlaceOf(place)); })},
       {"choose", Each([this](auto& name, auto&) { Choose(name); })},
       {"type", Each([this](auto& name, auto& text) { Type(name, text); })},
-      {"keys", Each([this](auto& text, auto&) { Keys(text); })},
+      {"keys", Each([this](auto& text, auto&) {
+         for (const QChar& letter : text) pressed_ += KeysOf(letter);
+         Keys(text);
+       })},
       {"key", Each([this](auto& name, auto&) { Press(name); })},
+      {"copy",
+       Each([](auto& text, auto&) { QGuiApplication::clipboard()->setText(Unescaped(text)); })},
+      {"opened", [this](auto& words) { Opened(Unescaped(words[0])); }},
       {"menu", Each([this](auto& item, auto&) { Menu(item); })},
+      {"entry", Each([this](auto& number, auto&) { ClickEntry(number.toInt()); })},
       {"close", Each([this](auto& name, auto&) {
          EXPECT_EQ(Front()->objectName(), name) << "is not in front";
          CloseByFrame();
@@ -149,6 +170,9 @@ class Walk : public WindowTest {
       {"box", [this](const Words& words) { Announce(words, MessageIcon::Exclamation); }},
       {"notice", [this](const Words& words) { Announce(words, MessageIcon::None); }},
       {"shows", Each([this](auto& name, auto& text) { Shows(name, text); })},
+      {"hint",
+       [this](const Words& words) { EXPECT_EQ(Caption("lblHint"), words.value(0).toStdString()); }},
+      {"entries", [this](const Words& words) { Entries(words); }},
       {"focus", Each([this](auto& name, auto&) { EXPECT_EQ(Focus(), name.toStdString()); })},
       {"shown", State("visible", true)},
       {"hidden", State("visible", false)},
@@ -160,6 +184,10 @@ class Walk : public WindowTest {
       {"report", [this](const Words& words) { Report(words); }},
       {"closed", Each([](auto& name, auto&) { EXPECT_EQ(VisibleForm(name), nullptr); })},
       {"ended", [this](const Words&) { Ended(); }},
+      {"pressed", Each([this](auto& keys, auto&) {
+         EXPECT_EQ(pressed_, keys.toInt());
+         EXPECT_FALSE(usesMouse_) << "not by the keyboard alone";
+       })},
   };
 
   void Run(const std::vector<Step>& steps) {
@@ -200,6 +228,7 @@ class Walk : public WindowTest {
     word->second(words.mid(1));
     EXPECT_TRUE(!acts || boxes.empty()) << "a box did not come";
     if (!acts) ++expected_;
+    usesMouse_ |= acts && !QStringList{"in", "key", "keys"}.contains(words.front());
   }
 
   /// An act that opens windows above: each part of the block that begins with "in" is done in one
@@ -243,15 +272,23 @@ class Walk : public WindowTest {
   void Press(const QString& name) {
     const QKeySequence keys(name);
     ASSERT_TRUE(!keys.isEmpty() && keys[0].key() != Qt::Key_unknown) << "unknown key";
+    pressed_ += KeysOf(keys[0]);
     Key(keys[0].key(), keys[0].keyboardModifiers());
   }
 
   /// The text of a box, then its title and answer where they are not the usual ones.
   void Announce(const Words& words, MessageIcon icon) {
-    ExpectedBox box{.text = words.value(0).replace("\\n", "\n").toStdString(), .icon = icon};
+    ExpectedBox box{.text = Unescaped(words.value(0)).toStdString(), .icon = icon};
     if (words.size() > 1) box.title = words[1].toStdString();
     if (words.size() > 2) box.answer = words[2] == "Yes" ? QMessageBox::Yes : QMessageBox::No;
     Expect(box);
+  }
+
+  /// The next open dialog is answered with a file of this text.
+  void Opened(const QString& text) {
+    QFile file(folder_.Path() / "opened.csv");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) > 0);
+    SetOpenAnswer([path = file.fileName()] { return path; });
   }
 
   void Shows(const QString& name, const QString& text) {
@@ -275,6 +312,25 @@ class Walk : public WindowTest {
     })(words.mid(1));
   }
 
+  void ClickEntry(int number) {
+    auto* list = Get<QTreeWidget>("lstEntries");
+    const QRect place = list->visualItemRect(list->topLevelItem(number - 1));
+    ASSERT_TRUE(list->isVisible() && place.isValid()) << "no such entry";
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place.center());
+    QCoreApplication::processEvents();
+  }
+
+  /// The list of the entries so far, each in one line.
+  void Entries(const Words& expected) {
+    Words shown;
+    const auto* list = Get<QTreeWidget>("lstEntries");
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+      const auto* item = list->topLevelItem(i);
+      shown << QString(item->text(0) + '\n' + item->text(1)).replace('\n', ' ');
+    }
+    EXPECT_EQ(shown.join("; ").toStdString(), expected.join("; ").toStdString());
+  }
+
   /// In the orderly way.
   void Ended() {
     EXPECT_TRUE(windows.HasEnded());
@@ -285,7 +341,10 @@ class Walk : public WindowTest {
   }
 
   const std::string file_;
+  const TemporaryFolder folder_;
   int expected_ = 0;
+  int pressed_ = 0;  ///< keys so far
+  bool usesMouse_ = false;
 };
 
 const bool kRegistered = [] {

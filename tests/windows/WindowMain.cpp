@@ -15,7 +15,6 @@ int main(int argc, char** argv) {
   corvane::PrepareWebView();
   corvane::PrepareHelpView();
   QApplication application(argc, argv);
-  QApplication::setApplicationVersion(CORVANE_VERSION);
   QApplication::setQuitOnLastWindowClosed(false);
   ::testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();

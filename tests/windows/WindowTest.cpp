@@ -1,6 +1,7 @@
 #include "windows/WindowTest.h"
 
 #include "platform/MessageBox.h"
+#include "platform/OpenDialog.h"
 #include "platform/SaveDialog.h"
 #include "support/Clock.h"
 
@@ -24,6 +25,7 @@ void WindowTest::TearDown() {
   for (const ExpectedBox& box : boxes) ADD_FAILURE() << "box never shown: " << box.text;
   SetMessageBoxObserver({});
   SetSaveAnswer({});
+  SetOpenAnswer({});
   SetToday({});
 }
 

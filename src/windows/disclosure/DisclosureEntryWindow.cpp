@@ -4,13 +4,21 @@
 
 #include "disclosure/DisclosureCalculation.h"
 #include "disclosure/EntryChecks.h"
+#include "disclosure/EntryContext.h"
 #include "disclosure/EntryLayout.h"
+#include "disclosure/EntryOverview.h"
 #include "disclosure/EntrySequence.h"
+#include "disclosure/EntrySlips.h"
 #include "disclosure/EntryTerm.h"
+#include "disclosure/NextStep.h"
 #include "platform/Pictures.h"
 #include "support/Clock.h"
 #include "ui_DisclosureEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
+#include "windows/frame/ContextLine.h"
+#include "windows/frame/DateCount.h"
+#include "windows/frame/EntryList.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -32,21 +40,40 @@ DisclosureEntryWindow::DisclosureEntryWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::DisclosureEntryWindow>()) {
   ui_->setupUi(this);
   NameArrayElements();
-  binding_ =
-      std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] { EnableCalendars(); });
+  dateCount_ = new DateCount(ui_->tStartDate);
+  binding_ = std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] {
+    EnableCalendars();
+    dateCount_->Show(TermDatesText(session().disclosure.setup, entry_));
+    ShowTier();
+  });
   BindFields();
   BindButtons();
 }
 
 DisclosureEntryWindow::~DisclosureEntryWindow() = default;
 
+void DisclosureEntryWindow::BuildPlace() {
+  account_ = AddContextLine("lblContext");
+  tier_ = AddContextLine("lblTierContext");
+  entries_ = new EntryList(this);
+  entries_->PlaceIn(*this);
+  connect(entries_, &EntryList::GoBackTo, this, [this](int entry) { GoBackTo(entry); });
+}
+
+void DisclosureEntryWindow::resizeEvent(QResizeEvent* event) {
+  Form::resizeEvent(event);
+  entries_->PlaceIn(*this);
+}
+
 void DisclosureEntryWindow::BindFields() {
   for (const auto& name : DisclosureEntry::Fields()) {
     SelectTextOnFocus(findChild<QLineEdit*>(name.control));
   }
-  BindNumeric(ui_->txtBal, {.repairMinus = true, .decimals = 2, .kind = "bal"});
-  BindNumeric(ui_->txtIntRateA, {.repairMinus = true, .decimals = 4, .kind = "int"});
-  BindNumeric(ui_->txtDiscAPY, {.repairMinus = true, .decimals = 2, .kind = "apy"});
+  FitToDigits(*ui_->txtDailyRateFactor, FieldLength::kFactor);
+  for (const auto& [control, decimals, kind] : DisclosureEntry::Decimals()) {
+    BindNumeric(findChild<QLineEdit*>(control),
+                {.repairMinus = true, .decimals = decimals, .kind = kind});
+  }
   for (auto* field :
        {ui_->txtBeginMonth, ui_->txtBeginYear, ui_->txtBtwnReqIntWdrwl, ui_->txtWdrwlPeriods}) {
     BindNumeric(field, {});
@@ -55,7 +82,13 @@ void DisclosureEntryWindow::BindFields() {
   BindNumeric(ui_->txtTierPerNum, {.digitsOnly = true});
   RewriteOnLeaving(ui_->txtBal);
   for (QLineEdit* date : {ui_->tStartDate, ui_->tEndDate}) {
+    BindDate(date);
     connect(date, &QLineEdit::textChanged, this, [this] { Date_Change(); });
+  }
+  for (QLineEdit* field : {ui_->txtDailyRateFactor, ui_->txtBal, ui_->txtIntRateA}) {
+    AskOnLeaving(field, [this, field] {
+      return SlipOf(session().disclosure, entry_, field->objectName().toStdString());
+    });
   }
   connect(ui_->txtTerm, &QLineEdit::textEdited, this, [this] { termEdited_ = true; });
   OnLostFocus(ui_->txtTerm, [this](const QString& next) { txtTerm_LostFocus(next); });
@@ -78,10 +111,12 @@ void DisclosureEntryWindow::BindButtons() {
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdAcctInfo->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdNext, ui_->cmdCalculateResult});
   BindCommonMenus(kHelpContext);
 }
 
 void DisclosureEntryWindow::Form_Load() {
+  BuildPlace();
   cmdSetProperties_Click();
 }
 
@@ -102,6 +137,7 @@ void DisclosureEntryWindow::cmdSetProperties_Click() {
   const bool calculates = !check.setup.IsTiered() && IsLastEntry(check);
   ui_->cmdCalculateResult->setVisible(calculates);
   ui_->cmdNext->setVisible(!calculates);
+  ShowPlace();
 }
 
 void DisclosureEntryWindow::ShowCaptions() {
@@ -141,6 +177,25 @@ void DisclosureEntryWindow::EnableCalendars() {
   for (QWidget* control : termDates_) control->setEnabled(enabled);
 }
 
+void DisclosureEntryWindow::ShowPlace() {
+  const DisclosureCheck& check = session().disclosure;
+  account_->ShowContext(ContextOf(session().header, check.setup));
+  tier_->setVisible(check.setup.IsTiered());
+  entries_->setVisible(HasOverview(check.setup));
+  entries_->ShowEntries(EntryHeading(check), EntriesSoFar(check), CurrentEntry(check));
+  ShowNextStep(NextStepOfEntry(check));
+}
+
+void DisclosureEntryWindow::ShowTier() {
+  const auto [text, warns] = TierContextOf(session().disclosure, entry_.txtBal);
+  tier_->ShowContext(text, warns);
+}
+
+void DisclosureEntryWindow::GoBackTo(int entry) {
+  const int times = CurrentEntry(session().disclosure) - entry;
+  for (int i = 0; i < times; ++i) ui_->cmdBack->click();
+}
+
 void DisclosureEntryWindow::txtTerm_LostFocus(const QString& next) {
   const bool edited = std::exchange(termEdited_, false);
   const Field& term = entry_.txtTerm;
@@ -171,7 +226,7 @@ void DisclosureEntryWindow::Date_Change() {
 void DisclosureEntryWindow::ImgCalendar_Click(int index) {
   QLineEdit* field = index == 0 ? ui_->tStartDate : ui_->tEndDate;
   const Date from = ParseDate(TextOf(field)).value_or(Today());
-  const auto picked = windows().Get<CalendarPopup>().PickDate(from);
+  const auto picked = windows().Get<CalendarPopup>().PickDate(from, CalendarTitle(index == 0));
   if (!picked) return;
   SetText(field, FormatDate(*picked));
   Date_Change();

@@ -12,6 +12,10 @@ class DisclosureEntryWindow;
 
 namespace corvane {
 
+class DateCount;
+class ContextLine;
+class EntryList;
+
 /// The entry window of the disclosure workflow: balance, rate, term or dates, withdrawals and the
 /// disclosed APY of an account, of a stepped period or of a tier.
 class DisclosureEntryWindow : public Form {
@@ -24,7 +28,11 @@ class DisclosureEntryWindow : public Form {
   void Form_Load() override;
   void Form_Activate() override;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
+  void BuildPlace();
   void BindFields();
   void BindButtons();
   void cmdSetProperties_Click();
@@ -39,11 +47,20 @@ class DisclosureEntryWindow : public Form {
   void ShowCaptions();
   void ShowGroups();
   void EnableCalendars();
+  /// Whose account and which tier it is, and which entries were made.
+  void ShowPlace();
+  void ShowTier();
+  /// Presses Back as often as it takes.
+  void GoBackTo(int entry);
   void InternalError();
 
   std::unique_ptr<Ui::DisclosureEntryWindow> ui_;
+  ContextLine* account_ = nullptr;
+  ContextLine* tier_ = nullptr;
+  EntryList* entries_ = nullptr;
   DisclosureEntry entry_;  ///< kept by the check when it is completed or left
   std::unique_ptr<FieldBinding<DisclosureEntry>> binding_;
+  DateCount* dateCount_ = nullptr;
   std::vector<QWidget*> termDates_;  ///< the two dates and their calendars
   bool termEdited_ = false;
 };

@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "disclosure/NextStep.h"
 #include "reports/DisclosureReport.h"
 #include "support/Clock.h"
 #include "ui_DisclosureResultsWindow.h"
@@ -25,6 +26,7 @@ DisclosureResultsWindow::DisclosureResultsWindow(WindowRegistry& registry)
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { routes().ShowMainMenuKeepingHeader(); });
+  EnterPresses({ui_->cmdBack});
   BindCommonMenus(kHelpContext);
 }
 
@@ -32,7 +34,9 @@ DisclosureResultsWindow::~DisclosureResultsWindow() = default;
 
 void DisclosureResultsWindow::Form_Activate() {
   FocusField(ui_->cmdBack);
+  ShowNextStep(NextStepOfResults(session().disclosure));
   BuildReport();
+  FocusReport();
 }
 
 ReportContent DisclosureResultsWindow::Content() {

@@ -27,11 +27,13 @@ DisclosureSetupWindow::DisclosureSetupWindow(WindowRegistry& registry)
   BindNumeric(ui_->txtDailyCompounding, {});
   SelectTextOnFocus(ui_->txtDailyCompounding, 3);
   BindHeader();
+  NameGroups();
   OnClick(ui_->cmdNext, [this] { cmdNext_Click(); });
   OnClick(ui_->cmdNewAcct, [this] { cmdNewAcct_Click(); });
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdNewAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdNext});
   BindCommonMenus(kHelpContext);
 }
 
@@ -42,6 +44,14 @@ void DisclosureSetupWindow::BindHeader() {
   BindText(ui_->txtName, header.institution);
   BindText(ui_->txtDepositInst, header.description);
   BindText(ui_->txtDepositorName, header.holder);
+}
+
+void DisclosureSetupWindow::NameGroups() {
+  ui_->lblInterestCompounding->setBuddy(ui_->fraInterestCompunding);
+  ui_->lblDaysInYear->setBuddy(ui_->fraDaysInYear);
+  ui_->lblLeapYear->setBuddy(ui_->fraLeapYear);
+  ui_->lblAcctType->setBuddy(ui_->fraAcctType);
+  ui_->lblRIWithdrawal->setBuddy(ui_->fraRIWithdrawal);
 }
 
 void DisclosureSetupWindow::Form_Load() {

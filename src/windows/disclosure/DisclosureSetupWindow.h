@@ -25,6 +25,7 @@ class DisclosureSetupWindow : public Form {
 
  private:
   void BindHeader();
+  void NameGroups();
   void ShowHeader();
   void ShowGroups();
   void cmdNext_Click();

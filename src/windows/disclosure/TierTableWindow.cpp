@@ -2,7 +2,9 @@
 
 #include <QtWidgets>
 
+#include "account/SlipNotice.h"
 #include "ui_TierTableWindow.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -17,6 +19,7 @@ TierTableWindow::TierTableWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::TierTableWindow>()) {
   ui_->setupUi(this);
   NameArrayElements();
+  FitToDigits(*ui_->txtTotalTiers, 2);
   for (int tier = 1; tier <= kMostTiers; ++tier) BindRow(tier);
   for (int tiers = kFewestTiers; tiers <= kMostTiers; ++tiers) {
     ui_->cboTotalTiers->addItem(QString::number(tiers));
@@ -28,6 +31,7 @@ TierTableWindow::TierTableWindow(WindowRegistry& registry)
   OnClick(ui_->cmdBack, [this] { routes().BackFromTierTable(ReadBoxes()); });
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdCalculate});
   BindCommonMenus(kHelpContext);
 }
 
@@ -39,13 +43,20 @@ QLineEdit* TierTableWindow::Box(const char* array, int tier) const {
 
 void TierTableWindow::BindRow(int tier) {
   auto* rate = Box("txtInt", tier);
-  BindNumeric(rate, {.decimals = 4, .kind = "int"});
+  BindNumeric(rate, {.decimals = kTierRateDecimals.decimals, .kind = kTierRateDecimals.kind});
   SelectTextOnFocus(rate);
   connect(rate, &QLineEdit::textEdited, this, [this] { rateEdited_ = true; });
+  AskOnLeaving(rate, [this, tier] { return TierRateNotice(ReadBoxes(), tier); });
   OnLostFocus(rate, [this, tier](const QString& next) { txtInt_LostFocus(tier, next); });
+  if (auto* above = Box("TxtAbove", tier)) {
+    FitToDigits(*above, FieldLength::kMoney);
+    above->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  }
   if (tier == kMostTiers) return;
   auto* bound = Box("txt_bne", tier);
-  BindNumeric(bound, {.repairMinus = true, .decimals = 2, .kind = "bal"});
+  BindNumeric(bound, {.repairMinus = true,
+                      .decimals = kTierBoundDecimals.decimals,
+                      .kind = kTierBoundDecimals.kind});
   SelectTextOnFocus(bound);
   RewriteOnLeaving(bound);
   OnLostFocus(bound, [this, tier](const QString&) { txt_bne_LostFocus(tier); });

@@ -8,6 +8,7 @@
 #include "support/CalendarMonth.h"
 #include "support/Clock.h"
 #include "ui_CalendarPopup.h"
+#include "windows/frame/MonthAccess.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -18,6 +19,16 @@ constexpr int kHelpContext = 7;
 constexpr int kColumns = 7;
 constexpr int kRows = 6;
 constexpr int kMonthsOfYear = 12;
+
+/// The pointer; the button that has the focus when the pointer is elsewhere, as on a press of a
+/// key.
+QPoint PlaceOfCall() {
+  const QPoint pointer = QCursor::pos();
+  const auto* button = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+  if (!button) return pointer;
+  const QRect place(button->mapToGlobal(QPoint()), button->size());
+  return place.contains(pointer) ? pointer : place.center();
+}
 
 }  // namespace
 
@@ -33,6 +44,12 @@ CalendarPopup::CalendarPopup(WindowRegistry& registry)
         static_cast<QObject*>(ui_->LabelNextYear)}) {
     part->installEventFilter(this);
   }
+  const QSize cell = fontMetrics().size(Qt::TextSingleLine, "0000") * 1.1;
+  ui_->picMonth->setMinimumSize(cell.width() * kColumns + 1, cell.height() * kRows + 1);
+  for (auto* label : {ui_->lblPrev, ui_->lblNext, ui_->LabelPrevYear, ui_->LabelNextYear}) {
+    label->setAccessibleName(label->toolTip());
+  }
+  MoveTo(current_);
   BindHelp(kHelpContext);
 }
 
@@ -42,7 +59,8 @@ std::optional<Date> CalendarPopup::PickDate(const Date& from, const QString& cap
   dateChosen_ = false;
   if (!caption.isEmpty()) setWindowTitle(caption);
   MoveTo(from);
-  PlaceBesidePointer();
+  resize(sizeHint());
+  PlaceBeside(*this, PlaceOfCall());
   ui_->picMonth->setFocus();
   // Read when the window closes: it may be gone when the call below returns.
   std::optional<Date> picked;
@@ -51,17 +69,6 @@ std::optional<Date> CalendarPopup::PickDate(const Date& from, const QString& cap
   });
   windows().RunModal(*this);
   return picked;
-}
-
-void CalendarPopup::PlaceBesidePointer() {
-  adjustSize();
-  const QPoint pointer = QCursor::pos();
-  const QRect screen = this->screen()->geometry();
-  int left = pointer.x() + 2;
-  if (left + width() > screen.right()) left = pointer.x() - 2 - width();
-  int top = pointer.y() + 20;
-  if (top + height() > screen.bottom()) top = pointer.y() - 2 - height();
-  move(left, top);
 }
 
 void CalendarPopup::MoveTo(const Date& date) {
@@ -74,6 +81,7 @@ void CalendarPopup::MoveTo(const Date& date) {
   ui_->lblMonth->setText(QLocale::c().toString(shown, "MMMM yyyy"));
   ui_->picMonth->setAccessibleName(QString::fromStdString(FormatDate(date)));
   ui_->picMonth->update();
+  TellOfCurrentDay(*ui_->picMonth, date.day());
 }
 
 QRectF CalendarPopup::CellRect(const Date& date) const {
@@ -86,17 +94,23 @@ QRectF CalendarPopup::CellRect(const Date& date) const {
 void CalendarPopup::PaintMonth() {
   QPainter painter(ui_->picMonth);
   painter.fillRect(ui_->picMonth->rect(), palette().button());
-  painter.setPen(palette().color(QPalette::ButtonText));
   const Date today = Today();
   for (int number = 1; number <= DaysOfMonth(current_); ++number) {
+    painter.setPen(palette().color(QPalette::ButtonText));
     const Date date{current_.year(), current_.month(),
                     std::chrono::day{static_cast<unsigned>(number)}};
     QFont font = ui_->picMonth->font();
     font.setBold(date == today);
     painter.setFont(font);
+    if (dateChosen_ && date == current_) PaintChosen(painter);
     painter.drawText(CellRect(date), Qt::AlignCenter, QString::number(number));
   }
   PaintHighlight(painter);
+}
+
+void CalendarPopup::PaintChosen(QPainter& painter) const {
+  painter.fillRect(CellRect(current_), palette().highlight());
+  painter.setPen(palette().color(QPalette::HighlightedText));
 }
 
 void CalendarPopup::PaintHighlight(QPainter& painter) const {
@@ -116,8 +130,9 @@ void CalendarPopup::PressDay(const QPointF& place) {
   if (const auto date = DayInCell(current_, cell)) MoveTo(*date);
 }
 
-bool CalendarPopup::picMonth_KeyDown(int key) {
-  switch (key) {
+bool CalendarPopup::picMonth_KeyDown(const QKeyEvent& press) {
+  const int months = press.modifiers() & Qt::ControlModifier ? kMonthsOfYear : 1;
+  switch (press.key()) {
     case Qt::Key_Right:
       MoveTo(AddDays(current_, 1));
       return true;
@@ -131,17 +146,15 @@ bool CalendarPopup::picMonth_KeyDown(int key) {
       MoveTo(AddDays(current_, -kColumns));
       return true;
     case Qt::Key_PageDown:
-      MoveTo(AddMonths(current_, 1));
+      MoveTo(AddMonths(current_, months));
       return true;
     case Qt::Key_PageUp:
-      MoveTo(AddMonths(current_, -1));
+      MoveTo(AddMonths(current_, -months));
       return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
       dateChosen_ = true;
-      return true;
-    case Qt::Key_Escape:
-      Close();
+      ui_->picMonth->update();
       return true;
     default:
       return false;
@@ -176,7 +189,7 @@ bool CalendarPopup::eventFilter(QObject* watched, QEvent* event) {
       PaintMonth();
       return true;
     case QEvent::KeyPress:
-      if (onMonth && picMonth_KeyDown(static_cast<QKeyEvent*>(event)->key())) return true;
+      if (onMonth && picMonth_KeyDown(*static_cast<QKeyEvent*>(event))) return true;
       break;
     case QEvent::MouseButtonPress:
       if (const auto* mouse = static_cast<QMouseEvent*>(event); onMonth) {
@@ -196,6 +209,10 @@ bool CalendarPopup::eventFilter(QObject* watched, QEvent* event) {
       break;
   }
   return Form::eventFilter(watched, event);
+}
+
+QString CalendarTitle(bool start) {
+  return QString(start ? "Start Date" : "End Date") + " - Double click for Date";
 }
 
 }  // namespace corvane

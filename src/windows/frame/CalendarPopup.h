@@ -20,22 +20,27 @@ class CalendarPopup : public Form {
   explicit CalendarPopup(WindowRegistry& registry);
   ~CalendarPopup() override;
 
-  /// Shows the month of a date beside the mouse pointer and returns when the pop-up has closed: the
-  /// day that was picked, or nothing.
+  bool PlacesItself() const override { return true; }
+  /// Shows the month of a date beside the mouse pointer, or beside the button that was pressed by a
+  /// key, and returns when the pop-up has closed: the day that was picked, or nothing.
   std::optional<Date> PickDate(const Date& from, const QString& caption = {});
+
+  /// The day that is marked, whose month is shown.
+  Date Current() const { return current_; }
+  /// Place of a day of that month in `picMonth`.
+  QRectF CellRect(const Date& date) const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void PaintMonth();
+  void PaintChosen(QPainter& painter) const;
   void PaintHighlight(QPainter& painter) const;
   void MoveTo(const Date& date);
   void PressDay(const QPointF& place);
-  bool picMonth_KeyDown(int key);
+  bool picMonth_KeyDown(const QKeyEvent& press);
   bool LabelPressed(QObject* label);
-  void PlaceBesidePointer();
-  QRectF CellRect(const Date& date) const;
   void Choose();
   void Close();
 
@@ -43,5 +48,8 @@ class CalendarPopup : public Form {
   Date current_;
   bool dateChosen_ = false;
 };
+
+/// The title of the calendar that asks for the start or for the end date.
+QString CalendarTitle(bool start);
 
 }  // namespace corvane

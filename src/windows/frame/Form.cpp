@@ -5,28 +5,61 @@
 #include "account/NumericEntry.h"
 #include "platform/MessageBox.h"
 #include "support/NumberText.h"
+#include "windows/frame/ContextLine.h"
+#include "windows/frame/DateKeys.h"
+#include "windows/frame/HintLine.h"
+#include "windows/frame/PageLayout.h"
+#include "windows/frame/PasteFilter.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
 
 namespace {
 
-/// Disabled fields show figures that have to be read: their text is fainter, not all but gone.
+/// Disabled fields show figures that have to be read, and disabled options what is chosen: their
+/// text is fainter, not all but gone. The window's own colour behind it tells such a field from one
+/// that takes an entry, in a dark palette too.
 QPalette ReadableWhenDisabled(QPalette palette) {
-  QColor text = palette.color(QPalette::Active, QPalette::Text);
-  text.setAlphaF(0.65F);
-  palette.setColor(QPalette::Disabled, QPalette::Text, text);
+  constexpr std::pair<QPalette::ColorRole, float> kFainter[] = {
+      {QPalette::Text, 0.65F}, {QPalette::WindowText, 0.45F}, {QPalette::ButtonText, 0.45F}};
+  for (const auto& [role, opacity] : kFainter) {
+    QColor text = palette.color(QPalette::Active, role);
+    text.setAlphaF(opacity);
+    palette.setColor(QPalette::Disabled, role, text);
+  }
+  palette.setColor(QPalette::Disabled, QPalette::Base,
+                   palette.color(QPalette::Active, QPalette::Window));
   return palette;
+}
+
+bool IsEnter(const QKeyEvent& press) {
+  return press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
 }
 
 bool TypesCharacter(const QKeyEvent& press) {
   return !press.text().isEmpty() && press.text().front().isPrint();
 }
 
+TypedInto PlaceIn(const QLineEdit* field) {
+  const bool selected = field->hasSelectedText();
+  return {field->text().toStdU16String(),
+          selected ? field->selectionStart() : field->cursorPosition(),
+          static_cast<int>(field->selectedText().size())};
+}
+
+/// The most characters of a field, by its rule.
+int LengthOf(const NumericRule& rule) {
+  if (rule.decimals < 0) return FieldLength::kCount;
+  const std::string_view kind = rule.kind;
+  return kind == "bal" || kind == "userint" ? FieldLength::kMoney : FieldLength::kRate;
+}
+
 }  // namespace
 
-Form::Form(WindowRegistry& windows, Role role) : windows_(windows), role_(role) {
+Form::Form(WindowRegistry& windows, Role role)
+    : windows_(windows), role_(role), hint_(*new HintLine(this)) {
   setPalette(ReadableWhenDisabled(palette()));
+  statusBar()->addWidget(&hint_, 1);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
     const bool isControl = now && now->window() == this && !qobject_cast<QMenuBar*>(now);
     if (isControl) MoveFocus(now);
@@ -42,21 +75,62 @@ Routes& Form::routes() {
 }
 
 void Form::Load() {
+  hint_.SetNextStep(NextStepOf(objectName()));
+  LetBodyScroll(*this);
   for (auto* button : findChildren<QAbstractButton*>()) button->installEventFilter(this);
   for (auto* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
+  BindKeys();
+  captions_.emplace(*this);
+  Form_Load();
+  captions_->Name();
+  LayOutPage(*this);
+}
+
+void Form::BindKeys() {
   if (auto* bar = findChild<QMenuBar*>()) {
     bar->installEventFilter(this);
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, bar,
             [bar] { bar->setActiveAction(bar->actions().front()); });
   }
-  Form_Load();
+  if (role_ == Role::Main) return;
+  auto* escape = new QShortcut(Qt::Key_Escape, this);
+  escape->setAutoRepeat(false);
+  connect(escape, &QShortcut::activated, this, [this] { close(); });
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+  // A key held down would press again in the window that opens, or whatever was refused.
+  if (IsEnter(*event) && (event->isAutoRepeat() || enter_.Press())) return;
+  QMainWindow::keyPressEvent(event);
+}
+
+bool Form::focusNextPrevChild(bool next) {
+  LetTabEnterAtChosenOptions(*this);
+  return QMainWindow::focusNextPrevChild(next);
 }
 
 void Form::Tell(const Refusal& refusal) {
   const bool warns = refusal.icon == MessageIcon::Exclamation;
   ShowMessage(this, QString::fromStdString(refusal.text), QString::fromStdString(refusal.title),
               warns ? QMessageBox::Warning : QMessageBox::NoIcon);
+  ShowHint(refusal.text);
+  // An empty name would find a control without one.
+  if (refusal.field.empty()) return;
   if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
+}
+
+void Form::ShowHint(const std::string& text) {
+  hint_.Tell(QString::fromStdString(text));
+}
+
+void Form::ShowNextStep(const std::string& text) {
+  hint_.SetNextStep(QString::fromStdString(text));
+}
+
+ContextLine* Form::AddContextLine(const char* name) {
+  auto* line = new ContextLine(this, name);
+  qobject_cast<QBoxLayout*>(centralWidget()->layout())->insertWidget(contextLines_++, line);
+  return line;
 }
 
 void Form::FocusField(QWidget* field) {
@@ -91,10 +165,24 @@ void Form::OnLostFocus(QWidget* field, LostFocusHandler handler) {
 
 void Form::BindNumeric(QLineEdit* field, const NumericRule& rule) {
   numeric_[field] = rule;
+  FitToDigits(*field, LengthOf(rule));
+  field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   // What an input method composes would not pass the key filter.
   field->setAttribute(Qt::WA_InputMethodEnabled, false);
   connect(field, &QLineEdit::textChanged, this,
           [this, field, rule] { NumericChange(field, rule); });
+  new PasteFilter(field, [this, field](const QString& text) { PasteInto(field, text); });
+}
+
+void Form::BindDate(QLineEdit* field) {
+  new DateKeys(field, [this](const std::string& refusal) { ShowHint(refusal); });
+}
+
+void Form::AskOnLeaving(QLineEdit* field, std::function<std::optional<std::string>()> notice) {
+  OnLostFocus(field, [this, notice, asked = std::optional<std::string>()](const QString&) mutable {
+    const auto last = std::exchange(asked, notice());
+    if (asked && asked != last) ShowHint(*asked);
+  });
 }
 
 void Form::SelectTextOnFocus(QLineEdit* field, int characters) {
@@ -131,6 +219,14 @@ void Form::NumericChange(QLineEdit* field, const NumericRule& rule) {
   if (limited.message) Tell(*limited.message);
 }
 
+void Form::PasteInto(QLineEdit* field, const QString& text) {
+  const NumericRule& rule = numeric_.at(field);
+  const auto number = PastedNumber(PlaceIn(field), text.toStdString(), rule.kind);
+  const bool hasSigns = number && number->find_first_of("-.") != number->npos;
+  if (!number || (rule.digitsOnly && hasSigns)) return ShowHint(kNumberNotPasted);
+  field->insert(QString::fromStdString(*number));
+}
+
 bool Form::PressControl(const QKeySequence& accessKey) {
   for (auto* button : findChildren<QAbstractButton*>()) {
     if (button->shortcut() != accessKey || !button->isVisible() || !button->isEnabled()) continue;
@@ -142,16 +238,14 @@ bool Form::PressControl(const QKeySequence& accessKey) {
 }
 
 bool Form::RefusesNumericKey(QLineEdit* field, const QKeyEvent& press, const NumericRule& rule) {
-  if (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter) {
-    if (rule.enterMovesOn) focusNextPrevChild(true);
-    return true;
+  if (IsEnter(press)) {
+    if (rule.enterMovesOn && !press.isAutoRepeat()) focusNextPrevChild(true);
+    return rule.enterMovesOn;
   }
   if (!TypesCharacter(press)) return false;
   const QString text = press.text();
   if (rule.digitsOnly) return text < "0" || text > "9";
-  return !FilterNumericKey(text.toUcs4().front(),
-                           {field->text().toStdU16String(), field->selectionStart(),
-                            static_cast<int>(field->selectedText().size())});
+  return !FilterNumericKey(text.toUcs4().front(), PlaceIn(field));
 }
 
 bool Form::RefusesKey(QLineEdit* field, const QKeyEvent& press) {
@@ -181,6 +275,7 @@ void Form::HoldFocus(QWidget* field) {
 
 void Form::MoveFocus(QWidget* now) {
   if (now == focused_) return;
+  if (captions_) captions_->Name();
   const QPointer<QWidget> left = focused_;
   focused_ = now;
   if (left) RaiseLostFocus(left, now->objectName());
@@ -196,6 +291,7 @@ void Form::RaiseLostFocus(QWidget* field, const QString& next) {
 
 bool Form::TakeFocus(QAbstractButton* button) {
   focusHeld_ = false;
+  hint_.Forget();
   button->setFocus();
   // A field that holds on to the focus has said why already.
   if (!focusHeld_) MoveFocus(button);
@@ -204,6 +300,7 @@ bool Form::TakeFocus(QAbstractButton* button) {
 
 bool Form::CommitFor(QAction* item) {
   focusHeld_ = false;
+  hint_.Forget();
   if (focused_) RaiseLostFocus(focused_, item->objectName());
   return !focusHeld_;
 }
@@ -215,10 +312,10 @@ void Form::ShowHelpTopic(int context) {
 void Form::BindHelp(int context) {
   // Help changes nothing in the form, so that the field which has the focus is not left for it.
   const auto show = [this, context] { ShowHelpTopic(context); };
-  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, show);
-  if (auto* item = findChild<QAction*>("mnuHelpTopics")) {
-    connect(item, &QAction::triggered, this, show);
-  }
+  auto* item = findChild<QAction*>("mnuHelpTopics");
+  if (!item) addAction(item = new QAction(this));
+  item->setShortcut(QKeySequence::HelpContents);
+  connect(item, &QAction::triggered, this, show);
 }
 
 void Form::BindCommonMenus(int helpContext) {

@@ -61,6 +61,10 @@ bool PressGuard::eventFilter(QObject* watched, QEvent* event) {
       if (!IsWindow(watched) || !GoesOn(*static_cast<QInputEvent*>(event))) return false;
       event->accept();
       return true;
+    case QEvent::WindowBlocked:  // a message or dialog came in front
+    case QEvent::WindowUnblocked:
+      WindowChanged();
+      return false;
     case QEvent::KeyRelease:
     case QEvent::MouseButtonRelease:
       if (IsWindow(watched)) last_ = InputOf(*static_cast<QInputEvent*>(event));

@@ -7,10 +7,11 @@ class QInputEvent;
 
 namespace corvane {
 
-/// Keeps a press that changed the window in front from acting in the next one too: the second press
-/// of a double click, which would meet whatever comes to stand under the pointer, a key pressed
-/// twice, and a key held down. Such presses do nothing as long as each follows the last one within
-/// the double-click interval, the mouse at the same place; an access key only while it is held.
+/// Keeps a press that changed the window in front, if only by a message box, from acting in the
+/// next one too, so that no message goes by unread: the second press of a double click, which would
+/// meet whatever comes to stand under the pointer, a key pressed twice, and a key held down. Such
+/// presses do nothing as long as each follows the last one within the double-click interval, the
+/// mouse at the same place; an access key only while it is held.
 class PressGuard : public QObject {
  public:
   PressGuard();

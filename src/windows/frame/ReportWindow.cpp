@@ -8,6 +8,8 @@
 #include "platform/WebView.h"
 #include "reports/DataFolder.h"
 #include "reports/SaveName.h"
+#include "support/Clock.h"
+#include "support/Dates.h"
 #include "support/Paths.h"
 #include "support/WholeFile.h"
 #include "windows/frame/WindowRegistry.h"
@@ -15,6 +17,11 @@
 namespace corvane {
 
 namespace {
+
+// In percent of the size that the template gives.
+constexpr int kZoomStep = 10;
+constexpr int kLeastZoom = 50;
+constexpr int kMostZoom = 300;
 
 QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -38,6 +45,46 @@ void ReportWindow::PlaceView(QWidget* frame, const QString& viewName) {
   OnClick(print, [this] { Print(); });
   OnMenu(findChild<QAction*>("mnuPrint"), [print] { print->click(); });
   OnMenu(findChild<QAction*>("mnuSave"), [this] { SaveCopy(); });
+  BindKeys();
+  AddViewMenu();
+  Zoom(session().reportZoom);
+}
+
+void ReportWindow::BindKeys() {
+  const std::pair<const char*, QKeySequence::StandardKey> keys[] = {
+      {"mnuSave", QKeySequence::Save},
+      {"mnuPrint", QKeySequence::Print},
+      {"mnuNewAccount", QKeySequence::New}};
+  for (const auto& [name, key] : keys) {
+    if (auto* item = findChild<QAction*>(name)) item->setShortcut(key);
+  }
+}
+
+void ReportWindow::AddViewMenu() {
+  auto* menu = new QMenu("&View", menuBar());
+  menuBar()->insertMenu(findChild<QMenu*>("mnuHelp")->menuAction(), menu);
+  const auto add = [this, menu](const char* name, const char* text, const auto& keys, auto zoom) {
+    QAction* item = menu->addAction(text);
+    item->setObjectName(name);
+    item->setShortcuts(keys);
+    connect(item, &QAction::triggered, this, [this, zoom] { Zoom(zoom(session().reportZoom)); });
+  };
+  using Keys = QList<QKeySequence>;
+  add("mnuZoomIn", "Zoom &In", Keys{Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal},
+      [](int now) { return now + kZoomStep; });
+  add("mnuZoomOut", "Zoom &Out", Keys{Qt::CTRL | Qt::Key_Minus},
+      [](int now) { return now - kZoomStep; });
+  add("mnuZoomNone", "&Actual Size", Keys{Qt::CTRL | Qt::Key_0}, [](int) { return 100; });
+}
+
+void ReportWindow::Zoom(int percent) {
+  int& zoom = session().reportZoom;
+  zoom = std::clamp(percent, kLeastZoom, kMostZoom);
+  view_->SetZoom(zoom);
+}
+
+void ReportWindow::FocusReport() {
+  if (text_) FocusField(view_);
 }
 
 void ReportWindow::BuildReport() {
@@ -48,11 +95,16 @@ void ReportWindow::BuildReport() {
   if (!report.text) view_->ShowNotice("No report was built.");
   for (const Refusal& message : report.messages) Tell(message);
   text_ = std::move(report.text);
+  labels_ = {windowTitle(), QString::fromStdString(session().header.institution),
+             QString::fromStdString(FormatDate(Today()))};
   if (text_) view_->ShowFile(Text(output));
 }
 
 void ReportWindow::Print() {
-  if (text_ && !view_->Print()) {
+  if (!text_) return;
+  const PrintOutcome outcome = view_->Print(labels_);
+  if (outcome == PrintOutcome::Printed) ShowHint("Printed");
+  if (outcome == PrintOutcome::Failed) {
     Tell({"The report could not be printed.", "", "Error!", MessageIcon::None});
   }
 }
@@ -72,7 +124,10 @@ void ReportWindow::SaveCopy() {
   const std::filesystem::path asked = PathOf(chosen->toStdString());
   const std::filesystem::path path = SavePathFor(asked);
   if (!MayReplace(asked, path)) return;
-  if (const auto error = WriteWholeFile(path, SavedText(*text_))) Tell(ReportNotWritten(*error));
+  if (const auto error = WriteWholeFile(path, SavedText(*text_))) {
+    return Tell(ReportNotWritten(*error));
+  }
+  ShowHint("Saved as " + PathText(path));
 }
 
 }  // namespace corvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/PrintedPages.h"
 #include "reports/ReportFile.h"
 #include "windows/frame/Form.h"
 
@@ -22,8 +23,13 @@ class ReportWindow : public Form {
   virtual ReportContent Content() = 0;
   /// Fills the template, tells of unknown tags and failures, and shows the file.
   void BuildReport();
+  /// Lets the keys move in the report, where one was built.
+  void FocusReport();
 
  private:
+  void BindKeys();
+  void AddViewMenu();
+  void Zoom(int percent);
   void Print();
   void SaveCopy();
   bool MayReplace(const std::filesystem::path& chosen, const std::filesystem::path& path);
@@ -31,6 +37,7 @@ class ReportWindow : public Form {
   ReportNames names_;
   WebView* view_ = nullptr;
   std::optional<std::string> text_;  ///< the report as it was built
+  PrintedLabels labels_;             ///< of the report when it is printed
 };
 
 }  // namespace corvane

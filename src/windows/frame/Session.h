@@ -17,6 +17,7 @@ struct Session {
   Workflow workflow = Workflow::Disclosure;
   DisclosureCheck disclosure;
   StatementCheck statement;
+  int reportZoom = 100;              ///< percent of their size that reports are shown at
   std::filesystem::path dataFolder;  ///< of the reports; empty where it could not be made
 
   /// Kind of account and tier table of the workflow that is under way.

@@ -5,10 +5,15 @@
 #include <QThread>
 
 #include "platform/WorkArea.h"
+#include "windows/frame/MonthAccess.h"
+#include "windows/frame/PageLayout.h"
 
 namespace corvane {
 
-WindowRegistry::WindowRegistry(Session& session) : session_(session) {}
+WindowRegistry::WindowRegistry(Session& session) : session_(session) {
+  MakeOptionGroupsAccessible();
+  MakeMonthsAccessible();
+}
 
 WindowRegistry::~WindowRegistry() {
   while (!open_.empty()) {
@@ -32,11 +37,26 @@ void WindowRegistry::Add(std::type_index type, Form* form) {
   form->Load();
 }
 
+const Form* WindowRegistry::MainWindow() const {
+  const auto shown = std::find_if(open_.rbegin(), open_.rend(), [](const Entry& entry) {
+    return entry.form->WindowRole() == Form::Role::Main && entry.form->isVisible();
+  });
+  return shown == open_.rend() ? nullptr : shown->form;
+}
+
 void WindowRegistry::PlaceBeforeShowing(Form& form) {
-  KeepInsideWorkArea(form);
-  const QWidget* before = QApplication::activeWindow();
-  const bool follows = before && form.WindowRole() == Form::Role::Main && !form.PlacesItself();
-  if (follows) PlaceOver(form, *before);
+  if (form.PlacesItself()) return;
+  const Form* main = MainWindow();
+  const bool isPage = form.WindowRole() == Form::Role::Main;
+  // The size and place that a person gave, and whether the window fills the screen.
+  if (main && isPage) {
+    form.restoreGeometry(main->saveGeometry());
+    return;
+  }
+  const bool likePage = isPage || ShowsLongText(form);
+  form.resize(likePage ? (main ? main->size() : PageSize(form)) : form.sizeHint());
+  if (main) return PlaceOver(form, *main);
+  CenterInWorkArea(form);
 }
 
 void WindowRegistry::BringToFront(Form& form) {

@@ -79,6 +79,9 @@ class WindowRegistry {
 
   Form* FindForm(std::type_index type) const;
   void Add(std::type_index type, Form* form);
+  /// The main window that is shown; null before the first one.
+  const Form* MainWindow() const;
+  /// Main windows follow each other as the pages of one window: same place, same size.
   void PlaceBeforeShowing(Form& form);
   void BringToFront(Form& form);
 

@@ -70,7 +70,6 @@ void HelpWindow::BindKeys() {
   new QShortcut(QKeySequence::Back, this, [this] { view_->GoBack(); });
   new QShortcut(QKeySequence::Forward, this, [this] { view_->GoForward(); });
   new QShortcut(QKeySequence::Find, this, [this] { FocusField(ui_->txtFind); });
-  new QShortcut(Qt::Key_Escape, this, [this] { close(); });
 }
 
 std::optional<Refusal> HelpWindow::Open(const std::filesystem::path& file, int context) {

@@ -6,9 +6,9 @@
 #include "platform/Pictures.h"
 #include "platform/ProgramFolder.h"
 #include "platform/SystemInfo.h"
-#include "platform/WorkArea.h"
 #include "support/Paths.h"
 #include "support/ProgramTitle.h"
+#include "support/ProgramVersion.h"
 #include "ui_AboutWindow.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -17,6 +17,8 @@ namespace corvane {
 namespace {
 
 constexpr int kHelpContext = 6;
+/// Height and width of the picture, in lines of text.
+constexpr int kPictureLines = 4;
 constexpr const char* kSupportContact = "corvane-support@example.org";
 
 }  // namespace
@@ -26,18 +28,19 @@ AboutWindow::AboutWindow(WindowRegistry& registry)
   ui_->setupUi(this);
   OnClick(ui_->cmdOK, [this] { windows().Close(*this); });
   OnClick(ui_->cmdSysInfo, [this] { cmdSysInfo_Click(); });
+  EnterPresses({ui_->cmdOK});
   BindHelp(kHelpContext);
 }
 
 AboutWindow::~AboutWindow() = default;
 
 void AboutWindow::Form_Load() {
-  CenterInWorkArea(*this);
   const QString title = kProgramTitle;
   setWindowTitle("About " + title);
   ui_->picIcon->setPixmap(ProgramIcon().pixmap(128));
+  ui_->picIcon->setFixedSize(QSize(1, 1) * kPictureLines * fontMetrics().lineSpacing());
   ui_->lblTitle->setText(title);
-  ui_->lblVersion->setText("Version " + QApplication::applicationVersion());
+  ui_->lblVersion->setText(QString("Version ") + kProgramVersion);
   const QString folder = QString::fromStdString(PathText(ProgramFolder()));
   ui_->TextConfig->setPlainText(QString("To report problems, contact:\r\n\t%1\r\n\r\n"
                                         "Application Path=%2\r\n")

@@ -11,6 +11,8 @@ namespace corvane {
 namespace {
 
 constexpr int kHelpContext = 5;
+/// Height and width of the picture, in lines of text.
+constexpr int kPictureLines = 6;
 
 }  // namespace
 
@@ -20,6 +22,7 @@ DisclaimerWindow::DisclaimerWindow(WindowRegistry& registry)
   OnClick(ui_->cmdOK, [this] { routes().LeaveDisclaimer(); });
   OnClick(ui_->cmdAbout, [this] { routes().OpenAbout(); });
   OnClick(ui_->cmdExit, [this] { windows().EndProcess(); });
+  EnterPresses({ui_->cmdOK});
   BindHelp(kHelpContext);
 }
 
@@ -27,6 +30,7 @@ DisclaimerWindow::~DisclaimerWindow() = default;
 
 void DisclaimerWindow::Form_Load() {
   ui_->Image1->setPixmap(ProgramPicture());
+  ui_->Image1->setFixedSize(QSize(1, 1) * kPictureLines * fontMetrics().lineSpacing());
   ui_->cmdOK->setFocus();
 }
 

@@ -3,7 +3,6 @@
 #include <QtWidgets>
 
 #include "platform/ProgramFolder.h"
-#include "platform/WorkArea.h"
 #include "reports/DataFolder.h"
 #include "support/IniFile.h"
 #include "ui_MainMenu.h"
@@ -42,7 +41,6 @@ MainMenu::~MainMenu() = default;
 void MainMenu::Form_Load() {
   const std::string startup = ReadIniValue(kOptionsSection, kStartupKey, "No", SettingsFile());
   ui_->mnuShowTitle->setChecked(startup != "No");
-  CenterInWorkArea(*this);
   ui_->cmdAcctAdv->setFocus();
 }
 

@@ -21,7 +21,6 @@ class MainMenu : public Form {
   ~MainMenu() override;
 
   void Form_Load() override;
-  bool PlacesItself() const override { return true; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

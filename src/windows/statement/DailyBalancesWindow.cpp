@@ -3,193 +3,205 @@
 #include <QtWidgets>
 
 #include "platform/MessageBox.h"
-#include "platform/WorkArea.h"
+#include "platform/OpenDialog.h"
+#include "statement/DayFilling.h"
+#include "statement/DayNotice.h"
+#include "statement/DayTable.h"
+#include "statement/StatementContext.h"
 #include "support/ProgramTitle.h"
+#include "support/WholeFile.h"
 #include "ui_DailyBalancesWindow.h"
+#include "windows/frame/ContextLine.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
+#include "windows/statement/DayGrid.h"
 
 namespace corvane {
 
-namespace {
-
-constexpr int kHelpContext = 10;
-constexpr int kRowsPerColumn = 11;
-constexpr int kGridColumns = 4;  ///< label, balance, rate and the gap to the next three
-constexpr int kFieldWidth = 100;
-constexpr int kRateWidth = 76;
-
-QLineEdit* MakeField(QWidget* parent, const char* name, int index, const char* tip, int width) {
-  auto* field = new QLineEdit(parent);
-  field->setObjectName(QString("%1(%2)").arg(name).arg(index));
-  field->setToolTip(tip);
-  field->setMinimumWidth(width);
-  field->setAlignment(Qt::AlignRight);
-  return field;
-}
-
-/// A rate that is worked out is there to be read, though it cannot be typed.
-void KeepReadable(QLineEdit* field) {
-  QPalette palette = field->palette();
-  palette.setBrush(QPalette::Disabled, QPalette::Text,
-                   palette.brush(QPalette::Active, QPalette::Text));
-  field->setPalette(palette);
-}
-
-}  // namespace
+static constexpr int kHelpContext = 10;
 
 DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& registry)
     : Form(registry, Role::Secondary), ui_(std::make_unique<Ui::DailyBalancesWindow>()) {
   ui_->setupUi(this);
   setWindowFlag(Qt::Dialog);
   NameArrayElements();
-  BuildRows();
-  OnClick(ui_->cmdPrevious, [this] { LeaveForPage(page_ - 1); });
-  OnClick(ui_->cmdNext, [this] { LeaveForPage(page_ + 1); });
-  OnClick(ui_->cmdContinue, [this] { cmdContinue_Click(); });
-  OnClick(ui_->cmdClear, [this] { cmdClear_Click(); });
-  OnClick(ui_->cmdPrint, [this] { cmdPrint_Click(); });
+  grid_ = std::make_unique<DayGrid>(*ui_->fraDays, *ui_->days, *ui_->cmdPrint);
+  BindFields();
+  BindCommands();
+  EnterPresses({ui_->cmdNext, ui_->cmdContinue});
   BindCommonMenus(kHelpContext);
 }
 
 DailyBalancesWindow::~DailyBalancesWindow() = default;
 
-void DailyBalancesWindow::BuildRows() {
-  QWidget* last = ui_->cmdPrint;
-  for (std::size_t index = 0; index < rows_.size(); ++index) {
-    rows_[index] = MakeRow(static_cast<int>(index));
-    BindRow(index);
-    QWidget::setTabOrder(last, rows_[index].balance);
-    QWidget::setTabOrder(rows_[index].balance, rows_[index].rate);
-    last = rows_[index].rate;
+void DailyBalancesWindow::BindFields() {
+  for (const auto& [label, balance, rate] : grid_->Rows()) {
+    for (const auto& [field, limit] :
+         {std::pair(balance, kDayBalanceDecimals), std::pair(rate, kDayRateDecimals)}) {
+      BindNumeric(field, {.repairMinus = true, .decimals = limit.decimals, .kind = limit.kind});
+    }
+    FitToDigits(*balance, DayGrid::kBalanceDigits);
+    FitToDigits(*rate, DayGrid::kRateDigits);
+    for (QLineEdit* field : {balance, rate}) {
+      SelectTextOnFocus(field);
+      OnLostFocus(field,
+                  [this, field](const QString&) { Field_LostFocus(*grid_->PlaceOf(field)); });
+    }
   }
 }
 
-DailyBalancesWindow::Row DailyBalancesWindow::MakeRow(int index) {
-  const Row row{new QLabel(ui_->fraDays),
-                MakeField(ui_->fraDays, "txtDayBal", index, "Daily Balance", kFieldWidth),
-                MakeField(ui_->fraDays, "txtRate", index, "Daily Interest Rate", kRateWidth)};
-  KeepReadable(row.rate);
-  row.label->setObjectName(QString("lblDay(%1)").arg(index));
-  row.label->setBuddy(row.balance);
-  const int line = 1 + index % kRowsPerColumn;
-  const int column = kGridColumns * (index / kRowsPerColumn);
-  ui_->days->addWidget(row.label, line, column);
-  ui_->days->addWidget(row.balance, line, column + 1);
-  ui_->days->addWidget(row.rate, line, column + 2);
-  return row;
-}
-
-void DailyBalancesWindow::BindRow(std::size_t index) {
-  const Row& row = rows_[index];
-  BindNumeric(row.balance, {.repairMinus = true, .decimals = 2, .kind = "bal"});
-  BindNumeric(row.rate, {.repairMinus = true, .decimals = 4, .kind = "int"});
-  SelectTextOnFocus(row.balance);
-  SelectTextOnFocus(row.rate);
-  OnLostFocus(row.balance, [this, index](const QString&) { txtDayBal_LostFocus(index); });
-  OnLostFocus(row.rate, [this, index](const QString&) { txtRate_LostFocus(index); });
+void DailyBalancesWindow::BindCommands() {
+  OnClick(ui_->cmdPrevious, [this] { Turn(-1); });
+  OnClick(ui_->cmdNext, [this] { Turn(1); });
+  OnClick(ui_->cmdContinue, [this] { cmdContinue_Click(); });
+  OnClick(ui_->cmdClear, [this] {
+    Fill(ClearDays(grid_->Days()));
+    GoToPage(1);
+  });
+  OnClick(ui_->cmdPrint, [this] { cmdPrint_Click(); });
+  OnMenu(ui_->mnuUndo, [this] { mnuUndo_Click(); });
+  OnMenu(ui_->mnuPaste,
+         [this] { PasteInto(grid_->FieldAt(place_), QGuiApplication::clipboard()->text()); });
+  OnMenu(ui_->mnuCopyBefore, [this] { Fill(CopyDayBefore(grid_->Days(), place_.day)); });
+  OnMenu(ui_->mnuCopyToEnd, [this] { Fill(CopyToEnd(grid_->Days(), place_.day)); });
+  OnMenu(ui_->mnuLoad, [this] { mnuLoad_Click(); });
 }
 
 void DailyBalancesWindow::Form_Load() {
-  CenterInWorkArea(*this);
+  account_ = AddContextLine("lblContext");
 }
 
 bool DailyBalancesWindow::Form_QueryUnload() {
   return AskYesNo(
       this, "Any data you have entered will be lost. Are you sure you want to close this window?",
-      kProgramTitle);
+      kProgramTitle, QMessageBox::No);
 }
 
 void DailyBalancesWindow::Edit(DailyBalances& daily, std::optional<ComputedDays>& computed) {
-  daily_ = &daily;
+  grid_->Edit(daily);
   computed_ = &computed;
+  account_->ShowContext(ContextOf(session().header, session().statement));
+  setWindowTitle(windowTitle() + " - " + ColumnName(daily.column));
   ui_->lblMinADB->setText(QString::fromStdString(MinimumAdbText(daily.account)));
   ui_->lblMinBal->setText(QString::fromStdString(MinimumDailyBalanceText(daily.account)));
   GoToPage(1);
 }
 
-void DailyBalancesWindow::LeaveForPage(int page) {
-  if (TakePage()) GoToPage(page);
+bool DailyBalancesWindow::eventFilter(QObject* watched, QEvent* event) {
+  const auto place = grid_->PlaceOf(watched);
+  if (place && event->type() == QEvent::FocusIn) place_ = *place;
+  const bool handled = place && event->type() == QEvent::KeyPress &&
+                       HandlesKey(*place, *static_cast<QKeyEvent*>(event));
+  return handled || Form::eventFilter(watched, event);
+}
+
+bool DailyBalancesWindow::HandlesKey(const DayPlace& place, const QKeyEvent& press) {
+  if (press.matches(QKeySequence::Undo) && !grid_->IsTyping(place)) return mnuUndo_Click(), true;
+  const int days = DaysMoved(press);
+  const bool isBefore = place.day == 0 && days < 0;
+  if (days != 0 && !isBefore) GoTo({place.day + static_cast<std::size_t>(days), place.isRate});
+  return days != 0;
+}
+
+void DailyBalancesWindow::GoTo(const DayPlace& place) {
+  if (place.day >= grid_->Days().days.size()) return FocusField(ui_->cmdContinue);
+  const int page = PageOf(place.day);
+  // As by the button, so that the page is left as its fields demand.
+  if (page > grid_->Page()) ui_->cmdNext->click();
+  if (page < grid_->Page()) ui_->cmdPrevious->click();
+  if (page == grid_->Page()) FocusField(grid_->FieldAt(place));
+}
+
+void DailyBalancesWindow::PasteInto(QLineEdit* field, const QString& text) {
+  if (!IsTable(text.toStdString())) return Form::PasteInto(field, text);
+  FocusField(field);
+  Fill(PasteDays(grid_->Days(), place_, text.toStdString()));
+}
+
+void DailyBalancesWindow::mnuUndo_Click() {
+  // A field that shows other days must not take them for what was typed.
+  FocusField(ui_->cmdContinue);
+  const auto changed = grid_->TakeBack();
+  const std::size_t day = changed.value_or(place_.day);
+  ShowPage(PageOf(day));
+  FocusField(grid_->FieldAt({day}));
+  if (changed) ShowHint("Taken back.");
+}
+
+void DailyBalancesWindow::mnuLoad_Click() {
+  const auto path = AskOpenPath(this, "Load Days from File", "Tables (*.csv *.txt);;All files (*)");
+  if (!path) return;
+  const auto text = ReadWholeFile(path->toStdString());
+  if (const auto* error = std::get_if<FileError>(&text)) {
+    return Tell({"The file cannot be read: " + error->reason, FieldAt(place_)});
+  }
+  Fill(LoadDays(grid_->Days(), std::get<std::string>(text)));
+}
+
+void DailyBalancesWindow::Fill(const std::variant<DailyBalances, Refusal>& days) {
+  if (const auto* refusal = std::get_if<Refusal>(&days)) return Tell(*refusal);
+  const std::string change = ChangeText(grid_->Days(), std::get<DailyBalances>(days));
+  grid_->Take(std::get<DailyBalances>(days));
+  ShowPage(grid_->Page());
+  FocusField(grid_->FieldAt(place_));
+  if (!change.empty()) ShowHint(change);
+}
+
+void DailyBalancesWindow::Turn(int pages) {
+  if (TakePage()) GoToPage(grid_->Page() + pages);
 }
 
 void DailyBalancesWindow::GoToPage(int page) {
-  page_ = page;
-  ShowPage();
-  FocusField(rows_.front().balance);
+  ShowPage(page);
+  FocusField(grid_->Rows().front().balance);
 }
 
-void DailyBalancesWindow::ShowPage() {
-  const std::size_t first = ShownDays().first;
-  for (std::size_t row = 0; row < rows_.size(); ++row) ShowRow(row, first + row);
-  ui_->cmdPrevious->setEnabled(page_ > 1);
-  ui_->cmdNext->setEnabled(HasNextPage(page_, daily_->days.size()));
+void DailyBalancesWindow::ShowPage(int page) {
+  grid_->ShowPage(page);
+  ui_->cmdPrevious->setEnabled(page > 1);
+  ui_->cmdNext->setEnabled(HasNextPage(page, grid_->Days().days.size()));
+  ShowSummary();
 }
 
-void DailyBalancesWindow::ShowRow(std::size_t row, std::size_t day) {
-  const Row& controls = rows_[row];
-  const bool exists = day < daily_->days.size();
-  const DayEntry texts = exists ? daily_->days[day] : DayEntry{};
-  const QString label = QString::fromStdString(DayLabel(*daily_, day));
-  controls.label->setText(label);
-  controls.label->setVisible(exists);
-  controls.balance->setVisible(exists);
-  controls.balance->setAccessibleName("Daily balance " + label);
-  SetText(controls.balance, texts.balance);
-  controls.rate->setVisible(exists);
-  controls.rate->setEnabled(daily_->TakesRates());
-  controls.rate->setAccessibleName("Rate " + label);
-  SetText(controls.rate, texts.rate);
+void DailyBalancesWindow::ShowSummary() {
+  ui_->lblSummary->setText(QString::fromStdString(SummaryText(grid_->Days())));
 }
 
 bool DailyBalancesWindow::TakePage() {
-  const DaySpan span = ShownDays();
-  for (std::size_t day = span.first; day < span.end; ++day) TakeRow(day - span.first, day);
-  const auto refusal = CheckPage(*daily_, page_);
+  grid_->TakePage();
+  const auto refusal = CheckPage(grid_->Days(), grid_->Page());
   if (refusal) Tell(*refusal);
   return !refusal;
 }
 
-void DailyBalancesWindow::TakeRow(std::size_t row, std::size_t day) {
-  TakeDay(*daily_, day, {TextOf(rows_[row].balance), TextOf(rows_[row].rate)});
-}
-
-void DailyBalancesWindow::txtDayBal_LostFocus(std::size_t row) {
-  const std::size_t day = ShownDays().first + row;
-  EnterBalance(*daily_, day, TextOf(rows_[row].balance));
-  ShowRow(row, day);
-}
-
-void DailyBalancesWindow::txtRate_LostFocus(std::size_t row) {
-  TakeRow(row, ShownDays().first + row);
+void DailyBalancesWindow::Field_LostFocus(const DayPlace& place) {
+  if (!grid_->TakeField(place)) return;
+  ShowSummary();
+  if (const auto notice = DayNotice(grid_->Days(), place.day)) ShowHint(*notice);
 }
 
 bool DailyBalancesWindow::AcceptsEmptyDays() {
-  const auto question = EmptyDaysQuestion(*daily_);
-  return !question ||
-         AskYesNo(this, QString::fromStdString(*question), kProgramTitle, QMessageBox::No);
+  const QString question = QString::fromStdString(EmptyDaysQuestion(grid_->Days()).value_or(""));
+  return question.isEmpty() || AskYesNo(this, question, kProgramTitle, QMessageBox::No);
 }
 
 void DailyBalancesWindow::cmdContinue_Click() {
   if (!TakePage() || !AcceptsEmptyDays()) return;
-  FillRates(*daily_);
-  auto computed = ComputeAdb(*daily_);
+  FillRates(grid_->Days());
+  auto computed = ComputeAdb(grid_->Days());
   if (const auto* refusal = std::get_if<Refusal>(&computed)) {
-    ShowPage();
+    ShowPage(grid_->Page());
     return Tell(*refusal);
   }
   *computed_ = std::get<ComputedDays>(std::move(computed));
   windows().Close(*this);
 }
 
-void DailyBalancesWindow::cmdClear_Click() {
-  ClearDays(*daily_);
-  GoToPage(1);
-}
-
 void DailyBalancesWindow::cmdPrint_Click() {
   if (!TakePage()) return;
-  FillRates(*daily_);
-  ShowPage();
-  routes().ShowInterestReport(*daily_);
+  FillRates(grid_->Days());
+  ShowPage(grid_->Page());
+  routes().ShowInterestReport(grid_->Days());
 }
 
 }  // namespace corvane

@@ -1,18 +1,18 @@
 #pragma once
 
-#include <array>
 #include <memory>
 
 #include "statement/DailyBalances.h"
 #include "windows/frame/Form.h"
-
-class QLabel;
 
 namespace Ui {
 class DailyBalancesWindow;
 }
 
 namespace corvane {
+
+class ContextLine;
+class DayGrid;
 
 /// The daily balances: one balance (and for stepped accounts one rate) for every day of the
 /// statement period, 33 days to a page.
@@ -30,37 +30,39 @@ class DailyBalancesWindow : public Form {
   /// Both have to live until the window has closed.
   void Edit(DailyBalances& daily, std::optional<ComputedDays>& computed);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  /// A copied table fills the days from the field's on.
+  void PasteInto(QLineEdit* field, const QString& text) override;
+
  private:
-  struct Row {
-    QLabel* label;
-    QLineEdit* balance;
-    QLineEdit* rate;
-  };
-
-  void BuildRows();
-  Row MakeRow(int index);
-  void BindRow(std::size_t index);
-  void txtDayBal_LostFocus(std::size_t row);
-  void txtRate_LostFocus(std::size_t row);
+  void BindFields();
+  void BindCommands();
+  void Field_LostFocus(const DayPlace& place);
   void cmdContinue_Click();
-  void cmdClear_Click();
   void cmdPrint_Click();
+  void mnuUndo_Click();
+  void mnuLoad_Click();
 
-  void LeaveForPage(int page);
+  bool HandlesKey(const DayPlace& place, const QKeyEvent& press);
+  /// Goes on to a day's field of the same column; behind the last day to Compute ADB.
+  void GoTo(const DayPlace& place);
+
+  void Turn(int pages);
   void GoToPage(int page);
-  void ShowPage();
-  void ShowRow(std::size_t row, std::size_t day);
+  void ShowPage(int page);
+  void ShowSummary();
   /// Takes what stands on the page, or tells why it cannot be left.
   bool TakePage();
   bool AcceptsEmptyDays();
-  void TakeRow(std::size_t row, std::size_t day);
-  DaySpan ShownDays() const { return DaysOnPage(page_, daily_->days.size()); }
+  /// Takes days over that were filled, or tells why they were not.
+  void Fill(const std::variant<DailyBalances, Refusal>& days);
 
   std::unique_ptr<Ui::DailyBalancesWindow> ui_;
-  std::array<Row, kDaysPerPage> rows_{};
-  DailyBalances* daily_ = nullptr;
+  ContextLine* account_ = nullptr;
+  std::unique_ptr<DayGrid> grid_;
   std::optional<ComputedDays>* computed_ = nullptr;
-  int page_ = 1;
+  DayPlace place_;  ///< of the field that has or last had the focus
 };
 
 }  // namespace corvane

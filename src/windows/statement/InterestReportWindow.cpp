@@ -23,6 +23,7 @@ InterestReportWindow::InterestReportWindow(WindowRegistry& registry)
   PlaceView(ui_->fraReport, "WebViewI");
   OnClick(ui_->cmdExit, [this] { windows().Close(*this); });
   OnMenu(ui_->mnuFileExit, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdExit});
   BindCommonMenus(kHelpContext);
 }
 
@@ -30,6 +31,7 @@ InterestReportWindow::~InterestReportWindow() = default;
 
 void InterestReportWindow::Form_Activate() {
   FocusField(ui_->cmdExit);
+  FocusReport();
 }
 
 void InterestReportWindow::ShowDays(const DailyBalances& daily) {

@@ -2,10 +2,15 @@
 
 #include <QtWidgets>
 
+#include "account/SlipNotice.h"
 #include "platform/Pictures.h"
+#include "statement/StatementContext.h"
 #include "support/Clock.h"
 #include "ui_StatementEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
+#include "windows/frame/ContextLine.h"
+#include "windows/frame/DateCount.h"
+#include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -21,6 +26,7 @@ StatementEntryWindow::StatementEntryWindow(WindowRegistry& registry)
   ui_->setupUi(this);
   binding_ = std::make_unique<FieldBinding<StatementEntry>>(
       *this, Entry(), [this] { ShowGroups(); }, [this] { FollowChanges(session().statement); });
+  dateCount_ = new DateCount(ui_->txtDateStart);
   BindFields();
   BindButtons();
 }
@@ -37,17 +43,20 @@ void StatementEntryWindow::BindFields() {
   }
   for (QLineEdit* field :
        {ui_->txtADBLedgerBalance, ui_->txtADBCollectedBalance, ui_->txtMinADB, ui_->txtMinDBal}) {
-    BindNumeric(field, {.repairMinus = true, .decimals = 2, .kind = "bal"});
     RewriteOnLeaving(field);
   }
-  BindNumeric(ui_->txtIntRate, {.repairMinus = true, .decimals = 4, .kind = "int"});
-  BindNumeric(ui_->txtDClApy, {.repairMinus = true, .decimals = 2, .kind = "apy"});
-  BindNumeric(ui_->txtIntAmt, {.repairMinus = true, .decimals = 2, .kind = "userint"});
+  FitToDigits(*ui_->txtDRFactor, FieldLength::kFactor);
+  for (const auto& [control, decimals, kind] : StatementEntry::Decimals()) {
+    BindNumeric(findChild<QLineEdit*>(control),
+                {.repairMinus = true, .decimals = decimals, .kind = kind});
+  }
   RewriteOnLeaving(ui_->txtIntAmt);
   for (QLineEdit* days : {ui_->txtLedgerdays, ui_->txtColDays}) {
     BindNumeric(days, {.enterMovesOn = true});
     OnLostFocus(days, [this](const QString& next) { Days_LostFocus(next); });
   }
+  for (QLineEdit* date : {ui_->txtDateStart, ui_->txtDateEnd}) BindDate(date);
+  AskOnLeaving(ui_->txtDRFactor, [this] { return FactorNotice(Entry().txtDRFactor.text); });
   connect(ui_->txtDRFactor, &QLineEdit::textChanged, this, [this] { txtDRFactor_Change(); });
 }
 
@@ -62,10 +71,12 @@ void StatementEntryWindow::BindButtons() {
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdNewAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdCalculate});
   BindCommonMenus(kHelpContext);
 }
 
 void StatementEntryWindow::Form_Load() {
+  account_ = AddContextLine("lblContext");
   const StatementSetup& setup = session().statement.setup;
   ui_->lblTopic->setText("  APY Earned For Periodic Statement  ");
   ui_->lblAccountInfo->setText(QString::fromStdString(AccountInfoText(setup)));
@@ -81,6 +92,7 @@ void StatementEntryWindow::Form_Activate() {
 
 void StatementEntryWindow::ShowGroups() {
   const StatementEntry& entry = Entry();
+  dateCount_->Show(PeriodDatesText(session().statement.setup.year, entry));
   ui_->fraIntCalcMethod->setEnabled(!LocksMethod(session().statement.setup));
   ui_->Frame4->setEnabled(entry.basis != BalanceBasis::Equal);
   ui_->cmdComputeLADB->setEnabled(entry.txtADBLedgerBalance.enabled);
@@ -89,6 +101,8 @@ void StatementEntryWindow::ShowGroups() {
   const std::string note = InterestNoteText(entry);
   ui_->lblIntNote->setText(QString::fromStdString(note));
   ui_->lblIntNote->setVisible(!note.empty());
+  account_->ShowContext(ContextOf(session().header, session().statement));
+  ShowNextStep(NextStepOfEntry(entry));
 }
 
 void StatementEntryWindow::txtDRFactor_Change() {
@@ -111,17 +125,19 @@ void StatementEntryWindow::Days_LostFocus(const QString& next) {
   });
 }
 
-bool StatementEntryWindow::PickDate(QLineEdit* field) {
-  const Date from = ParseDate(TextOf(field)).value_or(Today());
-  const auto picked = windows().Get<CalendarPopup>().PickDate(from);
+bool StatementEntryWindow::PickDate(QLineEdit* field, const Date& from, const QString& title) {
+  const auto picked = windows().Get<CalendarPopup>().PickDate(from, title);
   if (picked) SetText(field, FormatDate(*picked));
-  return picked.has_value();
+  // A calendar that is closed without a day keeps the date that there was.
+  return TextOf(field) != kEmptyDateMask;
 }
 
 void StatementEntryWindow::ImgCalendar_Click() {
   const DatesToAsk ask = DatesForCalendar(Entry());
-  if (ask.start && !PickDate(ui_->txtDateStart)) return;
-  if (ask.end && !PickDate(ui_->txtDateEnd)) return;
+  const Date start = PeriodStart(Entry(), Today());
+  if (ask.start && !PickDate(ui_->txtDateStart, start, CalendarTitle(true))) return;
+  const Date end = CalendarOfEnd(Entry(), Today());
+  if (ask.end && !PickDate(ui_->txtDateEnd, end, CalendarTitle(false))) return;
   const auto refusal = CountPeriod(session().statement.setup.year, Entry(), PeriodCaller::Calendar);
   binding_->Show();
   if (refusal) Tell(*refusal);

@@ -12,6 +12,9 @@ class StatementEntryWindow;
 
 namespace corvane {
 
+class DateCount;
+class ContextLine;
+
 /// The statement period: dates or days, rate, minimums, balances and the interest that the
 /// statement shows.
 class StatementEntryWindow : public Form {
@@ -35,11 +38,13 @@ class StatementEntryWindow : public Form {
   void Compute_Click(BalanceColumn column);
   void cmdCalculate_Click();
 
-  bool PickDate(QLineEdit* field);
+  bool PickDate(QLineEdit* field, const Date& from, const QString& title);
   bool Passes(const CheckOutcome& outcome);
 
   std::unique_ptr<Ui::StatementEntryWindow> ui_;
+  ContextLine* account_ = nullptr;
   std::unique_ptr<FieldBinding<StatementEntry>> binding_;
+  DateCount* dateCount_ = nullptr;
 };
 
 }  // namespace corvane

@@ -3,6 +3,7 @@
 #include <QtWidgets>
 
 #include "reports/StatementReport.h"
+#include "statement/StatementContext.h"
 #include "support/Clock.h"
 #include "ui_StatementResultsWindow.h"
 #include "windows/frame/WindowRegistry.h"
@@ -26,6 +27,7 @@ StatementResultsWindow::StatementResultsWindow(WindowRegistry& registry)
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdBack});
   BindCommonMenus(kHelpContext);
 }
 
@@ -33,11 +35,13 @@ StatementResultsWindow::~StatementResultsWindow() = default;
 
 void StatementResultsWindow::Form_Load() {
   ui_->cmdDetail->setEnabled(DetailOf(session().statement) != nullptr);
+  ShowNextStep(NextStepOfResults(session().statement));
 }
 
 void StatementResultsWindow::Form_Activate() {
   FocusField(ui_->cmdBack);
   BuildReport();
+  FocusReport();
 }
 
 ReportContent StatementResultsWindow::Content() {

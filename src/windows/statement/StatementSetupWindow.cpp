@@ -26,6 +26,7 @@ StatementSetupWindow::StatementSetupWindow(WindowRegistry& registry)
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAcct, [this] { ui_->cmdNewAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  EnterPresses({ui_->cmdNext});
   BindCommonMenus(kHelpContext);
 }
 

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class QPageLayout;
+class QPrinter;
+
+namespace corvane {
+
+/// What a printed report says beyond its page.
+struct PrintedLabels {
+  QString title;        ///< of the document
+  QString institution;  ///< with date and page number at the foot of every page
+  QString date;
+};
+
+/// The paper of the locale (Letter in the United States, else A4) with margins of 15 mm.
+void PreparePages(QPrinter& printer);
+
+/// A PDF document with its title, and with institution, date and "Page 1 of 2" in the lower margin
+/// of every page, as text that can be searched. Empty for what is no such document.
+QByteArray WithLabels(const QByteArray& pdf, const QPageLayout& layout,
+                      const PrintedLabels& labels);
+
+/// Prints a PDF document: into the file where the printer prints to a PDF file, so that its text
+/// stays text, else as pictures of the pages in its range. False when it fails.
+bool PrintPages(const QByteArray& pdf, QPrinter& printer);
+
+}  // namespace corvane

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "account/AccountHeader.h"
+#include "statement/StatementCheck.h"
+
+namespace corvane {
+
+/// What the period window and the daily window say of the statement: "First Bank · every 1 day ·
+/// 365 days · 29 Feb not counted · 10-01-2026 to 10-31-2026 · period of 30 days · average daily
+/// balance method". What is not known yet is left out.
+std::string ContextOf(const AccountHeader& header, const StatementCheck& check);
+
+/// What the period window asks for first, of what is still missing.
+std::string NextStepOfEntry(const StatementEntry& entry);
+
+/// What the results window can be left for.
+std::string NextStepOfResults(const StatementCheck& check);
+
+}  // namespace corvane

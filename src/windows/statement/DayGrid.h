@@ -1,0 +1,76 @@
+#pragma once
+
+#include <array>
+
+#include "statement/DayHistory.h"
+
+class QFrame;
+class QGridLayout;
+class QLabel;
+class QKeyEvent;
+class QLineEdit;
+class QObject;
+class QWidget;
+
+namespace corvane {
+
+/// The days that the window works on, and the fields of one page of them, in three columns below
+/// headings that the window's file has.
+class DayGrid {
+ public:
+  struct Row {
+    QLabel* label;
+    QLineEdit* balance;
+    QLineEdit* rate;
+  };
+
+  // Three columns have to fit beside each other on a small screen, in a font of 14 points.
+  static constexpr int kBalanceDigits = 11;  ///< "99999999.99"
+  static constexpr int kRateDigits = 6;      ///< "10.1234", whose point is narrow
+
+  /// Makes the fields; the frame owns them. Tab reaches them, day by day, behind the control.
+  DayGrid(QFrame& frame, QGridLayout& layout, QWidget& behind);
+
+  const std::array<Row, kDaysPerPage>& Rows() const { return rows_; }
+  QLineEdit* FieldAt(const DayPlace& place) const;
+  /// The place of a field of the page; nothing for any other object.
+  std::optional<DayPlace> PlaceOf(const QObject* field) const;
+
+  /// The days to work on, which have to outlive the grid's use.
+  void Edit(DailyBalances& daily) { daily_ = &daily; }
+  DailyBalances& Days() const { return *daily_; }
+
+  /// Shows a page (1 to 3), with headings over the columns that have days.
+  void ShowPage(int page);
+  /// The page that was shown last.
+  int Page() const { return page_; }
+
+  /// Takes what a person did to the days, so that it can be taken back; false where that is
+  /// nothing.
+  bool Take(DailyBalances days);
+  /// Takes a field that is left; true where it was changed.
+  bool TakeField(const DayPlace& place);
+  /// Takes all that stands on the page.
+  void TakePage();
+  /// Takes the latest change back: its first day, or nothing where there is none.
+  std::optional<std::size_t> TakeBack();
+  /// Whether a field holds something else than its day: then what is typed is its own to take back.
+  bool IsTyping(const DayPlace& place) const;
+
+ private:
+  Row MakeRow(QFrame& frame, int index);
+  void ShowRow(std::size_t row);
+  std::size_t FirstDay() const { return kDaysPerPage * static_cast<std::size_t>(page_ - 1); }
+  DayEntry Typed(std::size_t day) const;
+
+  QGridLayout& layout_;
+  std::array<Row, kDaysPerPage> rows_{};
+  DailyBalances* daily_ = nullptr;
+  DayHistory history_;
+  int page_ = 1;
+};
+
+/// How many days a key goes on (1) or back (-1); 0 for any other key.
+int DaysMoved(const QKeyEvent& press);
+
+}  // namespace corvane
