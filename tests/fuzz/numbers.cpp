@@ -2,6 +2,7 @@
 
 #include "Fuzz.h"
 #include "account/DailyRateFactor.h"
+#include "account/DateEntry.h"
 #include "account/NumericEntry.h"
 #include "support/Dates.h"
 #include "support/NumberText.h"
@@ -29,6 +30,15 @@ void ReadDate(const std::string& text) {
   }
 }
 
+void ReadPasted(const std::string& text) {
+  for (const char* kind : {"bal", "int", "userint", "apy"}) {
+    const auto number = CleanPastedNumber(text, kind);
+    if (number) DEMAND(IsNumeric(*number) && CleanPastedNumber(*number, kind) == number);
+  }
+  const auto date = ReadPastedDate(text);
+  if (date) DEMAND(ReadPastedDate(FormatDate(*date)) == date);
+}
+
 void ReadFactor(const std::string& text) {
   if (const auto days = FactorDays(text)) DEMAND(*days >= 1 && *days == std::floor(*days));
 }
@@ -48,6 +58,7 @@ int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   ReadNumber(text);
   ReadDate(text);
   ReadFactor(text);
+  ReadPasted(text);
   LimitTyped(std::u16string(text.begin(), text.end()), static_cast<int>(size % 5));
   return 0;
 }
