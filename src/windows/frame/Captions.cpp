@@ -28,7 +28,8 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
   auto* label = qobject_cast<QLabel*>(object);
   if (label && label->text() == ":") return new SilentSign(label);
   auto* frame = qobject_cast<QFrame*>(object);
-  const bool isGroup = className == "QFrame" && frame &&
+  if (className != "QFrame" || !frame) return nullptr;
+  const bool isGroup = !frame->accessibleName().isEmpty() ||
                        frame->findChild<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
   return isGroup ? new QAccessibleWidget(frame, QAccessible::Grouping) : nullptr;
 }

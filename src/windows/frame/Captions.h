@@ -36,8 +36,8 @@ class Captions : public QObject {
   std::vector<Named> named_;
 };
 
-/// Lets a group of options be one to a screen reader, where its frame would be a mere border, and a
-/// label that is a mere colon be nothing to it.
+/// Lets a frame of options, and one that has a name, be a group to a screen reader, where it would
+/// be a mere border, and a label that is a mere colon be nothing to it.
 void MakeCaptionsAccessible();
 
 }  // namespace corvane
