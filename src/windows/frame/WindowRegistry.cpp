@@ -79,12 +79,16 @@ void WindowRegistry::RunModal(Form& form) {
   BringToFront(form);
   QEventLoop loop;
   QObject::connect(&form, &Form::Unloaded, &loop, &QEventLoop::quit);
+  modal_.push_back(&form);
   loop.exec(QEventLoop::DialogExec);
+  modal_.pop_back();
 }
 
 bool WindowRegistry::IsInFront(const Form& form) const {
   const QWidget* modal = QApplication::activeModalWidget();
-  return form.isVisible() && (!modal || modal == &form);
+  // A window that has closed is modal until the handler that opened it has what it came for.
+  const bool isWaitedFor = !modal_.empty() && modal_.back() != &form;
+  return form.isVisible() && (!modal || modal == &form) && !isWaitedFor;
 }
 
 void WindowRegistry::Close(Form& form) {

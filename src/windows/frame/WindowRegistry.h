@@ -93,7 +93,8 @@ class WindowRegistry {
   Session& session_;
   Routes routes_{*this};
   PressGuard presses_;
-  std::vector<Entry> open_;  ///< oldest first
+  std::vector<Entry> open_;         ///< oldest first
+  std::vector<const Form*> modal_;  ///< whose loops run, the innermost last
   bool ended_ = false;
 };
 
