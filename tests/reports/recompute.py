@@ -364,6 +364,10 @@ def check_statement(report, check):
                   else statements.apy(amount, balance, days, year))
     check.same("APY", number(cells["Computed APY Earned"]), whole)
     check.verdict("verdict", cells["Result"], number(cells["Disclosed APY"]), whole)
+    both = report.labels["Interest Calculation Method"] == "Daily Balance" and all(
+        number(report.labels["Minimum Required " + name]) for name in ("ADB", "Daily Balance"))
+    noted = any("both minimums" in note for note in report.sentences.get("notes", []))
+    check.same("note on both minimums", noted, both)
 
 
 def by_columns(rows, width):

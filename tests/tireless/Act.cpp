@@ -14,13 +14,21 @@ struct Habit {
 };
 
 constexpr Habit kHabits[] = {
-    {Deed::FillWindow, "FillWindow", 22}, {Deed::TypeSensible, "TypeSensible", 14},
-    {Deed::TypeAnything, "TypeAnything", 8}, {Deed::Paste, "Paste", 6},
-    {Deed::Click, "Click", 14}, {Deed::DoubleClick, "DoubleClick", 3},
-    {Deed::Choose, "Choose", 6}, {Deed::PickFromList, "PickFromList", 2},
-    {Deed::Menu, "Menu", 4}, {Deed::AccessKeys, "AccessKeys", 5}, {Deed::Key, "Key", 12},
-    {Deed::Resize, "Resize", 1}, {Deed::Drop, "Drop", 1},
-    {Deed::CloseFrame, "CloseFrame", 1}, {Deed::Wait, "Wait", 2},
+    {Deed::FillWindow, "FillWindow", 22},
+    {Deed::TypeSensible, "TypeSensible", 14},
+    {Deed::TypeAnything, "TypeAnything", 8},
+    {Deed::Paste, "Paste", 6},
+    {Deed::Click, "Click", 14},
+    {Deed::DoubleClick, "DoubleClick", 3},
+    {Deed::Choose, "Choose", 6},
+    {Deed::PickFromList, "PickFromList", 2},
+    {Deed::Menu, "Menu", 4},
+    {Deed::AccessKeys, "AccessKeys", 5},
+    {Deed::Key, "Key", 12},
+    {Deed::Resize, "Resize", 1},
+    {Deed::Drop, "Drop", 1},
+    {Deed::CloseFrame, "CloseFrame", 1},
+    {Deed::Wait, "Wait", 2},
 };
 
 }  // namespace

@@ -8,7 +8,7 @@ namespace corvane {
 
 /// What a person may do at the windows.
 enum class Deed {
-  FillWindow,   ///< type something sensible into every field, then press the button that goes on
+  FillWindow,  ///< type something sensible into every field, then press the button that goes on
   TypeSensible,
   TypeAnything,
   Paste,

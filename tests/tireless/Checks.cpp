@@ -60,11 +60,11 @@ std::string ForeignResult(const DisclosureCheck& check) {
   if (!again.result || !check.result) return "no result";
   const auto& one = again.result->rows;
   const auto& other = check.result->rows;
-  const bool same = std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                               [](const ResultRow& a, const ResultRow& b) {
-                                 return a.interest == b.interest && a.apy == b.apy &&
-                                        a.verdict == b.verdict;
-                               });
+  const bool same =
+      std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                 [](const ResultRow& a, const ResultRow& b) {
+                   return a.interest == b.interest && a.apy == b.apy && a.verdict == b.verdict;
+                 });
   return same ? "" : "the result is not that of the entries";
 }
 

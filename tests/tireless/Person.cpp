@@ -11,7 +11,8 @@ namespace {
 
 template <class Things>
 auto Pick(const Things& things, std::uint32_t chance) {
-  return things[static_cast<decltype(things.size())>(chance % static_cast<std::size_t>(things.size()))];
+  return things[static_cast<decltype(things.size())>(chance %
+                                                     static_cast<std::size_t>(things.size()))];
 }
 
 /// What a field of this name may sensibly hold.
@@ -39,23 +40,56 @@ QString SensibleText(const QString& field, std::uint32_t chance) {
   for (const auto& [part, texts] : kTexts) {
     if (field.contains(part)) return Pick(texts, chance);
   }
-  return Pick(QStringList{"First Bank", "Savings & <b>more</b>", "7", "Ann \"B\"", "é€ 中"}, chance);
+  return Pick(QStringList{"First Bank", "Savings & <b>more</b>", "7", "Ann \"B\"", "é€ 中"},
+              chance);
 }
 
 QString AnyText(std::uint32_t chance) {
-  static const QStringList texts = {
-      "", " ", "-", ".", "--5", "1.2.3", "abc", "0", "-0", "00000", "1e308", "99999999999999999999",
-      "0.0000001", "1,234.56", "1.234,56", "$1,234.56", "5.25%", "1/0", "1/", "13-45-2024",
-      "2024-02-30", "<script>alert(1)</script>", "^instname^", "\\0", QString(3000, '9'),
-      QString(500, '^'), "１２", "\u202e12", "1\t2\t3", "\t\n", "NaN", "inf"};
+  static const QStringList texts = {"",
+                                    " ",
+                                    "-",
+                                    ".",
+                                    "--5",
+                                    "1.2.3",
+                                    "abc",
+                                    "0",
+                                    "-0",
+                                    "00000",
+                                    "1e308",
+                                    "99999999999999999999",
+                                    "0.0000001",
+                                    "1,234.56",
+                                    "1.234,56",
+                                    "$1,234.56",
+                                    "5.25%",
+                                    "1/0",
+                                    "1/",
+                                    "13-45-2024",
+                                    "2024-02-30",
+                                    "<script>alert(1)</script>",
+                                    "^instname^",
+                                    "\\0",
+                                    QString(3000, '9'),
+                                    QString(500, '^'),
+                                    "１２",
+                                    "\u202e12",
+                                    "1\t2\t3",
+                                    "\t\n",
+                                    "NaN",
+                                    "inf"};
   return Pick(texts, chance);
 }
 
 QString AnyPaste(std::uint32_t chance) {
-  static const QStringList texts = {"1000\n2000\n3000\n", "1,000.00\t5.25\n2,000.00\t5.25\n",
-                                    "Balance\n5\n6\n", QString("100\n").repeated(96),
-                                    QString("100\n").repeated(200), "\n\n\n", "12\r\n",
-                                    "2026-01-05", "01/05/2024"};
+  static const QStringList texts = {"1000\n2000\n3000\n",
+                                    "1,000.00\t5.25\n2,000.00\t5.25\n",
+                                    "Balance\n5\n6\n",
+                                    QString("100\n").repeated(96),
+                                    QString("100\n").repeated(200),
+                                    "\n\n\n",
+                                    "12\r\n",
+                                    "2026-01-05",
+                                    "01/05/2024"};
   return chance % 2 ? AnyText(chance / 2) : Pick(texts, chance / 2);
 }
 
@@ -127,7 +161,8 @@ void Person::TypeInto(QLineEdit* field, const QString& text) {
   QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
   if (text.isEmpty()) QTest::keyClick(field, Qt::Key_Delete);
   // A long text is as good by its beginning: the fields take each character alone.
-  for (const QChar letter : text.left(40)) QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, letter, {});
+  for (const QChar letter : text.left(40))
+    QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, letter, {});
 }
 
 void Person::FillWindow(const Act& act) {
@@ -163,16 +198,33 @@ void Person::Press(QWidget* receiver, int key, Qt::KeyboardModifiers modifiers) 
 
 void Person::PressAnyKey(const Act& act) {
   static const QList<std::pair<int, Qt::KeyboardModifiers>> keys = {
-      {Qt::Key_Tab, {}}, {Qt::Key_Backtab, Qt::ShiftModifier}, {Qt::Key_Return, {}},
-      {Qt::Key_Enter, Qt::KeypadModifier}, {Qt::Key_Escape, {}}, {Qt::Key_Space, {}},
-      {Qt::Key_Up, {}}, {Qt::Key_Down, {}}, {Qt::Key_Left, {}}, {Qt::Key_Right, {}},
-      {Qt::Key_PageUp, {}}, {Qt::Key_PageDown, {}}, {Qt::Key_PageUp, Qt::ControlModifier},
-      {Qt::Key_Home, {}}, {Qt::Key_End, {}}, {Qt::Key_F1, {}}, {Qt::Key_F10, {}},
-      {Qt::Key_D, Qt::ControlModifier}, {Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier},
-      {Qt::Key_Z, Qt::ControlModifier}, {Qt::Key_V, Qt::ControlModifier},
-      {Qt::Key_S, Qt::ControlModifier}, {Qt::Key_N, Qt::ControlModifier},
-      {Qt::Key_Plus, Qt::ControlModifier}, {Qt::Key_Minus, Qt::ControlModifier},
-      {Qt::Key_Delete, {}}, {Qt::Key_Backspace, {}}};
+      {Qt::Key_Tab, {}},
+      {Qt::Key_Backtab, Qt::ShiftModifier},
+      {Qt::Key_Return, {}},
+      {Qt::Key_Enter, Qt::KeypadModifier},
+      {Qt::Key_Escape, {}},
+      {Qt::Key_Space, {}},
+      {Qt::Key_Up, {}},
+      {Qt::Key_Down, {}},
+      {Qt::Key_Left, {}},
+      {Qt::Key_Right, {}},
+      {Qt::Key_PageUp, {}},
+      {Qt::Key_PageDown, {}},
+      {Qt::Key_PageUp, Qt::ControlModifier},
+      {Qt::Key_Home, {}},
+      {Qt::Key_End, {}},
+      {Qt::Key_F1, {}},
+      {Qt::Key_F10, {}},
+      {Qt::Key_D, Qt::ControlModifier},
+      {Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier},
+      {Qt::Key_Z, Qt::ControlModifier},
+      {Qt::Key_V, Qt::ControlModifier},
+      {Qt::Key_S, Qt::ControlModifier},
+      {Qt::Key_N, Qt::ControlModifier},
+      {Qt::Key_Plus, Qt::ControlModifier},
+      {Qt::Key_Minus, Qt::ControlModifier},
+      {Qt::Key_Delete, {}},
+      {Qt::Key_Backspace, {}}};
   const auto [key, modifiers] = Pick(keys, act.what);
   Press(front_, key, modifiers);
 }
@@ -261,13 +313,20 @@ void Person::Wait(const Act& act) {
 
 void Person::Do(const Act& act) {
   static const std::map<Deed, void (Person::*)(const Act&)> kWays = {
-      {Deed::FillWindow, &Person::FillWindow}, {Deed::TypeSensible, &Person::Type},
-      {Deed::TypeAnything, &Person::Type},     {Deed::Paste, &Person::Paste},
-      {Deed::Click, &Person::Click},           {Deed::DoubleClick, &Person::Click},
-      {Deed::Choose, &Person::Choose},         {Deed::PickFromList, &Person::PickFromList},
-      {Deed::Menu, &Person::OpenMenu},         {Deed::AccessKeys, &Person::PressAccessKeys},
-      {Deed::Key, &Person::PressAnyKey},       {Deed::Resize, &Person::Resize},
-      {Deed::Drop, &Person::DropFile},         {Deed::CloseFrame, &Person::CloseFrame},
+      {Deed::FillWindow, &Person::FillWindow},
+      {Deed::TypeSensible, &Person::Type},
+      {Deed::TypeAnything, &Person::Type},
+      {Deed::Paste, &Person::Paste},
+      {Deed::Click, &Person::Click},
+      {Deed::DoubleClick, &Person::Click},
+      {Deed::Choose, &Person::Choose},
+      {Deed::PickFromList, &Person::PickFromList},
+      {Deed::Menu, &Person::OpenMenu},
+      {Deed::AccessKeys, &Person::PressAccessKeys},
+      {Deed::Key, &Person::PressAnyKey},
+      {Deed::Resize, &Person::Resize},
+      {Deed::Drop, &Person::DropFile},
+      {Deed::CloseFrame, &Person::CloseFrame},
       {Deed::Wait, &Person::Wait}};
   answers_ = act.what;
   front_ = Front(act.where);

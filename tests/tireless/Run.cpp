@@ -9,10 +9,10 @@
 #include <thread>
 #include <utility>
 
+#include <unistd.h>
 #include <QElapsedTimer>
 #include <QThread>
 #include <QTimer>
-#include <unistd.h>
 
 #include "Checks.h"
 #include "Person.h"
@@ -21,8 +21,8 @@ namespace corvane {
 
 namespace {
 
-constexpr qint64 kLongestAct = 1000;        // milliseconds
-constexpr long kMostGrowth = 40;            // MiB in a thousand acts, once all has been used once
+constexpr qint64 kLongestAct = 1000;  // milliseconds
+constexpr long kMostGrowth = 40;      // MiB in a thousand acts, once all has been used once
 constexpr std::size_t kActsBetweenWeighing = 1000;
 
 long ResidentMiB() {
@@ -104,7 +104,8 @@ class Runner {
     weighed_ = next_;
     const long now = ResidentMiB();
     if (next_ > 2 * kActsBetweenWeighing && now - memory_ > kMostGrowth) {
-      fault_ = "memory grew from " + std::to_string(memory_) + " to " + std::to_string(now) + " MiB";
+      fault_ =
+          "memory grew from " + std::to_string(memory_) + " to " + std::to_string(now) + " MiB";
     }
     memory_ = now;
     std::cout << next_ << " acts, " << now << " MiB" << std::endl;
@@ -113,7 +114,8 @@ class Runner {
   /// An act that never comes back is told too.
   void Watch(const std::stop_token& stop) const {
     std::size_t seen = 0;
-    for (int stuck = 0; !stop.stop_requested(); std::this_thread::sleep_for(std::chrono::seconds(1))) {
+    for (int stuck = 0; !stop.stop_requested();
+         std::this_thread::sleep_for(std::chrono::seconds(1))) {
       stuck = seen == next_ ? stuck + 1 : 0;
       seen = next_;
       if (stuck < 15) continue;

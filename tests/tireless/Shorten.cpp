@@ -16,7 +16,8 @@ namespace {
 bool IsOfTheEngine(const QString& line) {
   static const QRegularExpression engine(
       "^(\\[\\d+:\\d+:|Sandboxing disabled|qt\\.webenginecontext|GL |Surface |QSG |Using |Init "
-      "Parameters|  \\*  |libva|$|.*(WebEngineContext used before|No suitable graphics|Vulkan|vulkan|This plugin does not support|XDG_RUNTIME_DIR))");
+      "Parameters|  \\*  |libva|$|.*(WebEngineContext used before|No suitable "
+      "graphics|Vulkan|vulkan|This plugin does not support|XDG_RUNTIME_DIR))");
   return line.trimmed().isEmpty() || engine.match(line).hasMatch();
 }
 
@@ -33,8 +34,9 @@ QString FaultOf(const std::string& program, const std::vector<Act>& acts) {
     std::ofstream out(file.toStdString());
     for (const Act& act : acts) out << TextOf(act) << '\n';
   }
-  const int status = std::system((Quoted(QString::fromStdString(program)) + " " + Quoted(file) +
-                                  " 2>" + Quoted(errors)).c_str());
+  const int status = std::system(
+      (Quoted(QString::fromStdString(program)) + " " + Quoted(file) + " 2>" + Quoted(errors))
+          .c_str());
   QFile said(errors);
   said.open(QIODevice::ReadOnly);
   QString fault;
