@@ -87,4 +87,15 @@ std::string NoteText(const Note& note) {
   return text;
 }
 
+std::string NotesOfLine(Notes notes, int number) {
+  std::string text;
+  for (Note& note : notes) {
+    const bool isOfAll = note.figures.empty();
+    std::erase_if(note.figures, [number](const NoteFigure& f) { return f.number != number; });
+    const bool concerns = isOfAll ? number == 1 : !note.figures.empty();
+    if (concerns) text += (text.empty() ? "" : " ") + NoteText(note);
+  }
+  return text;
+}
+
 }  // namespace corvane

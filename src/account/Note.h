@@ -30,6 +30,7 @@ struct NoteFigure {
   double computed = 0;             ///< percent, what the program shows
   double other = 0;                ///< percent, rounded to hundredths
   std::optional<Verdict> turnsTo;  ///< the verdict on `other`, where it is not the one shown
+  int number = 1;                  ///< of the period or tier
 };
 
 struct Note {
@@ -49,5 +50,9 @@ std::optional<NoteFigure> FigureApart(double computed, double other, double disc
 /// The note as plain sentences: "... when it compounds every 182 days: 5.06% beside 5.13%. This
 /// would be OK."
 std::string NoteText(const Note& note);
+
+/// The notes as plain sentences, with the figures of one period or tier only. What has no figures
+/// is said of the first.
+std::string NotesOfLine(Notes notes, int number);
 
 }  // namespace corvane

@@ -123,6 +123,11 @@ Outcome<DisclosureResult> ComputeResult(const DisclosureCheck& check, const Acco
   return ComputeEach(check, terms);
 }
 
+int YearDaysOf(const DisclosureCheck& check) {
+  if (check.setup.kind != AccountKind::TierB || check.completed == 0) return check.setup.year.days;
+  return YearDaysOfMethodB(TermsOf(check.setup), DepositOf(check.entries.front()));
+}
+
 AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry) {
   check.result.reset();
   auto refusal = CheckEntry(check, entry);

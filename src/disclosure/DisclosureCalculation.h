@@ -24,6 +24,9 @@ AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry
 /// What the formulas take of the completed entries: the periods, tiers or tier ends.
 std::vector<Deposit> CompletedDeposits(const DisclosureCheck& check);
 
+/// The days in the year that an account's APY is for; by method B not always those of the setup.
+int YearDaysOf(const DisclosureCheck& check);
+
 /// The result of the completed entries by these terms, TermsOf(check.setup) or another reading of
 /// them. A stepped account without a completed period has none.
 Outcome<DisclosureResult> ComputeResult(const DisclosureCheck& check, const AccountTerms& terms);

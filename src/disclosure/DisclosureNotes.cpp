@@ -28,14 +28,25 @@ std::optional<NoteFigure> FigureOfRow(const DisclosureCheck& check, std::size_t 
   const ResultRow& row = check.result->rows.at(k);
   if (!row.apy || !other) return std::nullopt;
   auto figure = FigureApart(*row.apy, *other, row.disclosedApy, least);
-  if (figure) figure->place = PlaceOfRow(check, k);
+  if (!figure) return std::nullopt;
+  figure->number = row.number;
+  figure->place = PlaceOfRow(check, k);
   return figure;
 }
 
-// Notes by another reading of the same formulas.
+// Notes by another reading of the same formulas. Each is computed only where it may differ.
 
-bool Everyone(const DisclosureCheck&) {
-  return true;
+/// Half a cent more or less in the interest may move an APY by a hundredth. For a balance B over D
+/// days it moves the APY by no more than half a cent * 366 / D * (100 + APY) / B, and a term is no
+/// shorter than its number of days or periods.
+bool CentsMayShow(const DisclosureCheck& check) {
+  constexpr double kMostBalanceDays = 0.005 * 366 * 100 / kLeast;
+  const auto& rows = check.result->rows;
+  const double first = rows.front().balance.value_or(0);
+  return std::ranges::any_of(rows, [first](const ResultRow& row) {
+    return row.apy &&
+           row.balance.value_or(first) * row.term < kMostBalanceDays * (1 + *row.apy / 100);
+  });
 }
 bool CompoundsByManyDays(const DisclosureCheck& check) {
   return check.setup.compounding == Unit::Days && PeriodLength(check.setup) > 1;
@@ -43,8 +54,12 @@ bool CompoundsByManyDays(const DisclosureCheck& check) {
 bool IsMethodB(const DisclosureCheck& check) {
   return check.setup.kind == AccountKind::TierB;
 }
-bool WithdrawsMonthly(const DisclosureCheck& check) {
-  return check.setup.withdrawal == Unit::Months;
+bool TakesAnotherYear(const DisclosureCheck& check) {
+  return IsMethodB(check) && YearDaysOf(check) != check.setup.year.days;
+}
+/// A month has the same length in every year but for 29 February.
+bool MonthsMayDiffer(const DisclosureCheck& check) {
+  return check.setup.withdrawal == Unit::Months && check.setup.year.countsLeapDay;
 }
 
 struct OtherReading {
@@ -56,9 +71,9 @@ struct OtherReading {
 
 constexpr OtherReading kOtherReadings[] = {
     {NoteKind::CompoundingByPeriods, CompoundsByManyDays, &Reading::compoundsByPeriods, kLeast},
-    {NoteKind::YearOfMethodB, IsMethodB, &Reading::ownYear, kLeast},
-    {NoteKind::LengthsOfMonths, WithdrawsMonthly, &Reading::ownMonths, kLeast},
-    {NoteKind::InterestInCents, Everyone, &Reading::exactInterest, kLeastOfCents},
+    {NoteKind::YearOfMethodB, TakesAnotherYear, &Reading::ownYear, kLeast},
+    {NoteKind::LengthsOfMonths, MonthsMayDiffer, &Reading::ownMonths, kLeast},
+    {NoteKind::InterestInCents, CentsMayShow, &Reading::exactInterest, kLeastOfCents},
 };
 
 Note NoteBy(const DisclosureCheck& check, const OtherReading& rule) {
@@ -76,12 +91,26 @@ Note NoteBy(const DisclosureCheck& check, const OtherReading& rule) {
 
 // The rate as the APY, by Part I.E.
 
+/// Whether interest may be paid out without compounding: there is none, or it is withdrawn by the
+/// same measure. By method B a balance has no one rate; Part I.E names none for it.
+bool MayPayRate(const DisclosureSetup& setup) {
+  const bool measuresAlike = setup.withdrawal == setup.compounding;
+  return setup.kind != AccountKind::TierB && (setup.compounding == Unit::None || measuresAlike);
+}
+
 /// Whether a completed entry pays its interest out each time that it compounds.
 bool PaysOutEachPeriod(const DisclosureCheck& check, const Deposit& deposit) {
   const auto& [compounding, withdrawal, year, reading] = TermsOf(check.setup);
-  const bool measuresAlike = withdrawal != Unit::None && withdrawal == compounding.unit;
   const bool atLeastYearly = compounding.unit == Unit::Months || compounding.length <= year.days;
-  return measuresAlike && atLeastYearly && deposit.withdrawals.periods == deposit.term;
+  return atLeastYearly && deposit.withdrawals.periods == deposit.term;
+}
+
+/// Twelve months are a year, and so are its days.
+bool IsOverAYear(const AccountTerms& terms, std::span<const Deposit> deposits) {
+  double units = 0;
+  for (const Deposit& deposit : deposits) units += deposit.term * terms.compounding.length;
+  if (terms.compounding.unit == Unit::Months) return units > 12;
+  return units > (terms.year.countsLeapDay ? 366 : 365);
 }
 
 /// The composite rate of the deposits, when their term is over one year and their interest does not
@@ -89,13 +118,13 @@ bool PaysOutEachPeriod(const DisclosureCheck& check, const Deposit& deposit) {
 std::optional<double> RateToDisclose(const DisclosureCheck& check,
                                      std::span<const Deposit> deposits) {
   const AccountTerms terms = TermsOf(check.setup);
+  if (!IsOverAYear(terms, deposits)) return std::nullopt;
   const bool paidOut = std::ranges::all_of(
       deposits, [&check](const Deposit& deposit) { return PaysOutEachPeriod(check, deposit); });
   if (terms.compounding.unit != Unit::None && !paidOut) return std::nullopt;
   const auto composite = CompositeRateOf(terms, deposits);
   const auto* found = std::get_if<CompositeRate>(&composite);
-  const bool overAYear = found && found->days > (terms.year.countsLeapDay ? 366 : 365);
-  return overAYear ? std::optional(found->percent) : std::nullopt;
+  return found ? std::optional(found->percent) : std::nullopt;
 }
 
 NoteKind RateKind(const DisclosureCheck& check) {
@@ -106,10 +135,9 @@ NoteKind RateKind(const DisclosureCheck& check) {
   return known ? NoteKind::RatePaidOut : NoteKind::RateIfPaidOut;
 }
 
-/// By method B a balance has no one rate; Part I.E names none for it.
 Note RateNote(const DisclosureCheck& check) {
   Note note{RateKind(check)};
-  if (IsMethodB(check)) return note;
+  if (!MayPayRate(check.setup)) return note;
   const std::vector<Deposit> deposits = CompletedDeposits(check);
   const bool stepped = check.setup.kind == AccountKind::Stepped;
   for (std::size_t k = 0; k < std::min(deposits.size(), check.result->rows.size()); ++k) {

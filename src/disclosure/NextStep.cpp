@@ -1,5 +1,6 @@
 #include "disclosure/NextStep.h"
 
+#include "disclosure/DisclosureNotes.h"
 #include "disclosure/EntrySequence.h"
 
 namespace corvane {
@@ -49,11 +50,9 @@ std::string NextStepOfResults(const DisclosureCheck& check) {
   if (check.setup.kind != AccountKind::Stepped) {
     return "Computed. Back returns to the figures, New Account starts another account.";
   }
-  const std::string done = std::to_string(check.completed);
-  const int behind = EntryBehindResults(check);
-  return "Period " + done + " of " + std::to_string(EntryCount(check)) + " computed. Back " +
-         (behind > check.completed ? "goes on" : "returns") + " to period " +
-         std::to_string(behind) + ".";
+  const std::string remain = PeriodsRemainText(check);
+  if (remain.empty()) return "All periods computed. Back returns to the last one.";
+  return remain + " Back goes on to period " + std::to_string(EntryBehindResults(check)) + ".";
 }
 
 }  // namespace corvane

@@ -9,7 +9,8 @@ namespace corvane {
 /// What the entry window asks for, and what its button then does.
 std::string NextStepOfEntry(const DisclosureCheck& check);
 
-/// What the results window can be left for: "Period 1 of 2 computed. Back goes on to period 2."
+/// What the results window can be left for: "All tiers computed. Back returns to the
+/// last one."
 std::string NextStepOfResults(const DisclosureCheck& check);
 
 }  // namespace corvane

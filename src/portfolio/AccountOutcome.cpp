@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
+#include "disclosure/DisclosureNotes.h"
 #include "disclosure/EntrySequence.h"
 #include "portfolio/FillDisclosure.h"
 #include "portfolio/FillStatement.h"
+#include "statement/StatementNotes.h"
 
 namespace corvane {
 
@@ -39,11 +41,19 @@ void PutFigures(AccountOutcome& outcome, const DisclosureCheck& check) {
   }
 }
 
+void PutNotes(AccountOutcome& outcome, const Notes& notes) {
+  if (notes.empty()) return;
+  int number = 0;
+  for (RowOutcome& row : outcome.rows) row.note = NotesOfLine(notes, ++number);
+}
+
 void TakeDisclosure(AccountOutcome& outcome, const AccountRows& account) {
   const FilledDisclosure filled = FillDisclosure(account.rows);
   outcome.kind = filled.check.setup.kind.value_or(AccountKind::Regular);
   Tell(outcome, account, filled.told);
-  if (!outcome.isRefused) PutFigures(outcome, filled.check);
+  if (outcome.isRefused) return;
+  PutFigures(outcome, filled.check);
+  PutNotes(outcome, NotesOf(filled.check));
 }
 
 void TakeStatement(AccountOutcome& outcome, const AccountRows& account) {
@@ -56,6 +66,7 @@ void TakeStatement(AccountOutcome& outcome, const AccountRows& account) {
   const StatementResult& result = filled.check.result.value();
   outcome.rows.front().figures = {result.interest, result.apy, filled.check.entry.txtDClApy.Value(),
                                   result.verdict};
+  PutNotes(outcome, NotesOf(filled.check));
 }
 
 bool IsViolation(const RowOutcome& row) {

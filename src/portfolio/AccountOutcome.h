@@ -23,7 +23,7 @@ struct RowOutcome {
   Figures figures;  ///< of the low end, where the row is a tier by method B
   Figures highEnd;
   std::optional<double> average;  ///< of the daily balances of a statement, currency
-  std::string note;
+  std::string note;     ///< what may be held against the row's figures, with the other ones
   std::string message;  ///< what a window tells of the row, with its line where it is refused
 };
 

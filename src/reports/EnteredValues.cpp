@@ -125,12 +125,6 @@ std::string EntriesHtml(const DisclosureCheck& check) {
   return TableHtml("Terms As Entered", headings, rows);
 }
 
-double YearDaysOf(const DisclosureCheck& check) {
-  const auto deposits = CompletedDeposits(check);
-  if (check.setup.kind != AccountKind::TierB || deposits.empty()) return check.setup.year.days;
-  return YearDaysOfMethodB(TermsOf(check.setup), deposits.front());
-}
-
 /// "1000.00" of the row of a tier's end; blank where it has none.
 std::string BoundText(const DisclosureCheck& check, int tier, bool lowEnd) {
   const auto& rows = check.result->rows;

@@ -24,7 +24,7 @@ inline std::string Short(const Note& note) {
       {NoteKind::PeriodsRemain,
        "periods " + std::to_string(note.count) + " of " + std::to_string(note.all)}};
   std::string text = names.at(note.kind);
-  for (const auto& [place, computed, other, turnsTo] : note.figures) {
+  for (const auto& [place, computed, other, turnsTo, number] : note.figures) {
     if (&place != &note.figures.front().place) text += ",";
     text += place.empty() ? " " : " " + place + ": ";
     text += FormatFixed2(other) + "/" + FormatFixed2(computed);

@@ -194,6 +194,15 @@ class Reading:
 
 
 METHOD = Reading()
+READINGS = {
+    "daily compounding": Reading(periods=True),
+    "calendar's own": Reading(own_months=True),
+    "unrounded interest": Reading(exact=True),
+}
+
+
+def least_of(note):
+    return Decimal("0.02" if "unrounded" in note else "0.01")
 
 
 def tiers_of(report):
@@ -267,15 +276,24 @@ def composite(report):
 def other_apys(report, note):
     if "Part I.E" in note:
         return [rate and cents(rate) for rate in composite(report)]
-    for words, reading in {
-        "daily compounding": Reading(periods=True),
-        "own days in the year": Reading(year=own_year(report)),
-        "calendar's own": Reading(own_months=True),
-        "unrounded interest": Reading(exact=True),
-    }.items():
+    if "own days in the year" in note:
+        return [found for _, found in apys(report, Reading(year=own_year(report)))]
+    for words, reading in READINGS.items():
         if words in note:
             return [found for _, found in apys(report, reading)]
     return None
+
+
+def check_no_note_is_missing(report, check, shown):
+    """But for Part I.E and the year of method B, whose conditions a report does not tell whole."""
+    notes = " ".join(report.sentences.get("notes", []))
+    if "Periods computed" in notes:
+        return
+    for words, reading in READINGS.items():
+        if words not in notes:
+            apart = [abs(other - computed) for (_, other), computed in
+                     zip(apys(report, reading), shown) if other is not None and computed is not None]
+            check.same(f"missing note on {words}", max(apart) >= least_of(words), False)
 
 
 def check_notes(report, check, shown, disclosed):
@@ -285,7 +303,7 @@ def check_notes(report, check, shown, disclosed):
         if others is None:
             check.same("figures of a note without any", len(figures), 0)
             continue
-        least = Decimal("0.02" if "unrounded" in note else "0.01")
+        least = least_of(note)
         expected = []
         for other, computed, promised in zip(others, shown, disclosed):
             if other is None or computed is None or abs(other - computed) < least:
@@ -313,6 +331,7 @@ def check_disclosure(report, check):
             check.verdict("verdict", cells["Result"], number(cells["Disclosed APY"]), whole)
     disclosed = [number(row[head.index("Disclosed APY")]) for row in filled]
     check_notes(report, check, shown, disclosed)
+    check_no_note_is_missing(report, check, shown)
     check_total(report, check)
 
 
@@ -345,6 +364,10 @@ def check_statement(report, check):
                   else statements.apy(amount, balance, days, year))
     check.same("APY", number(cells["Computed APY Earned"]), whole)
     check.verdict("verdict", cells["Result"], number(cells["Disclosed APY"]), whole)
+    both = report.labels["Interest Calculation Method"] == "Daily Balance" and all(
+        number(report.labels["Minimum Required " + name]) for name in ("ADB", "Daily Balance"))
+    noted = any("both minimums" in note for note in report.sentences.get("notes", []))
+    check.same("note on both minimums", noted, both)
 
 
 def by_columns(rows, width):
