@@ -28,13 +28,42 @@ struct Told {
 
 /// Puts a cell into a numeric field as a paste does: "$1,234.50" gives "1234.50", and what has too
 /// many decimals is cut.
-std::string Typed(std::string_view cell, std::span<const DecimalLimit> limits, const char* control,
-                  Told& told);
 std::string Typed(std::string_view cell, const DecimalLimit& limit, Told& told);
 
 /// Why a cell has no place where nothing can be typed: it is neither empty nor 0 and says something
 /// else than what stands there.
 std::optional<Refusal> CheckClosed(std::string_view cell, std::string_view stands, Column column);
+
+/// The decimals that a field takes; nothing where it is no field of decimals.
+template <class Values>
+const DecimalLimit* LimitOf(Field Values::*field) {
+  for (const DecimalLimit& limit : Values::Decimals()) {
+    if (std::string_view(NameOf(field)) == limit.control) return &limit;
+  }
+  return nullptr;
+}
+
+/// A column and the field of a window's values that its cells are typed into.
+template <class Values>
+struct FieldColumn {
+  Column column;
+  Field Values::*field;
+  const DecimalLimit* limit = LimitOf(field);
+
+  /// Types a cell; an empty one leaves the field as it stands, and a closed field takes nothing
+  /// else than what it shows. Nothing is typed behind a refusal.
+  void Type(const PortfolioRow& row, Values& values, Told& told) const {
+    const std::string_view cell = row.Cell(column);
+    Field& typed = values.*field;
+    if (told.refusal || cell.empty()) return;
+    if (!typed.enabled) {
+      told.refusal = CheckClosed(cell, typed.text, column);
+      return;
+    }
+    typed.text = limit ? Typed(cell, *limit, told) : std::string(cell);
+    typed.workedOut = false;
+  }
+};
 
 /// A word of a column and the option that it chooses.
 struct OptionWord {
