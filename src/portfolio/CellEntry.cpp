@@ -37,6 +37,7 @@ bool Told::Refuses(std::optional<Refusal> why) {
 }
 
 std::string Typed(std::string_view cell, const DecimalLimit& limit, Told& told) {
+  if (cell.empty()) return "";
   if (!IsNumeric(cell)) {
     // What is no number even so stays for the checks to refuse.
     const auto number = CleanPastedNumber(cell, limit.kind);
@@ -67,9 +68,14 @@ Refusal NoWordOf(Column column, std::span<const OptionWord> words) {
   return {"The column " + std::string(NameOf(column)) + " has to be one of: " + known + "."};
 }
 
+std::optional<Date> DateOf(std::string_view cell) {
+  const auto date = ParseDate(cell);
+  return date ? date : ReadPastedDate(cell);
+}
+
 std::string DateText(std::string_view cell) {
   if (Trim(cell).empty()) return std::string(kEmptyDateMask);
-  const auto date = ParseDate(cell) ? ParseDate(cell) : ReadPastedDate(cell);
+  const auto date = DateOf(cell);
   return date ? FormatDate(*date) : std::string(cell);
 }
 

@@ -11,6 +11,7 @@
 #include "account/NumericEntry.h"
 #include "account/TierTable.h"
 #include "portfolio/AccountRows.h"
+#include "support/Dates.h"
 
 namespace corvane {
 
@@ -112,8 +113,10 @@ class OptionWords {
   std::vector<const OptionName<Values>*> options_;
 };
 
-/// A date as its field holds it, read as one that is pasted: "2024-01-31" and "1/31/2024" give
-/// "01-31-2024"; any other text stays as it is.
+/// A date that is read as one that is pasted, such as "2024-01-31" and "1/31/2024".
+std::optional<Date> DateOf(std::string_view cell);
+
+/// A date as its field holds it, "01-31-2024"; a text that is none stays as it is.
 std::string DateText(std::string_view cell);
 
 /// The identification texts of a row.

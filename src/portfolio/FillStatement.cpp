@@ -139,7 +139,7 @@ class Filling {
     StatementCheck& check = filled_.check;
     if (!account_.days || account_.days->rows.empty()) return true;
     if (!Passes(StartCompute(check, BalanceColumn::Ledger))) return false;
-    const auto first = ParseDate(DateText(account_.days->rows.front().date));
+    const auto first = DateOf(account_.days->rows.front().date);
     DailyBalances daily = DaysOf(check, BalanceColumn::Ledger, first.value_or(Date{}));
     if (!TypeDays(daily)) return false;
     FillRates(daily);
@@ -167,7 +167,7 @@ class Filling {
   std::optional<Refusal> TypeDay(DailyBalances& daily, const DayRow& row,
                                  std::vector<bool>& typed) {
     if (*row.damage) return DayRefusal(row, row.damage);
-    const auto date = ParseDate(DateText(row.date));
+    const auto date = DateOf(row.date);
     if (!date) return DayRefusal(row, "\"" + row.date + "\" is no date.");
     const int place = DaysBetween(daily.start, *date);
     if (place < 0 || place >= static_cast<int>(daily.days.size())) return std::nullopt;

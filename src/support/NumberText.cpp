@@ -63,24 +63,14 @@ std::optional<double> ParsedLong(std::string_view text) {
   return isHuge ? std::nullopt : std::optional(value);
 }
 
-/// Takes the digits at the beginning of a text away from it and appends them to the number. How
-/// many.
-int TakeDigits(std::string_view& text, std::uint64_t& number) {
-  const auto* at = text.begin();
-  for (; at != text.end() && *at >= '0' && *at <= '9'; ++at) {
-    number = number * 10 + static_cast<std::uint64_t>(*at - '0');
-  }
-  const auto count = at - text.begin();
-  text.remove_prefix(static_cast<std::size_t>(count));
-  return static_cast<int>(count);
-}
-
 }  // namespace
 
 std::string WithKeyboardSigns(std::string_view text) {
   constexpr std::pair<std::string_view, std::string_view> kSigns[] = {
       {"\u00a0", " "}, {"\u2007", " "}, {"\u2009", " "}, {"\u202f", " "}, {"\u2212", "-"}};
   std::string plain(text);
+  const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  if (std::ranges::all_of(text, isAscii)) return plain;
   for (const auto& [sign, key] : kSigns) {
     for (auto at = plain.find(sign); at != plain.npos; at = plain.find(sign, at)) {
       plain.replace(at, sign.size(), key);
@@ -92,20 +82,28 @@ std::string WithKeyboardSigns(std::string_view text) {
 std::optional<double> NumberOf(std::string_view text) {
   // Up to here a double holds digits and power of ten as they are, and their quotient is the
   // nearest one to the decimal number.
-  constexpr int kExactDigits = 15;
+  constexpr std::size_t kExactDigits = 15;
   constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
   text = Trim(text);
-  std::string_view rest = text;
-  if (!rest.empty() && (rest.front() == '+' || rest.front() == '-')) rest.remove_prefix(1);
+  const bool isSigned = text.starts_with('+') || text.starts_with('-');
   std::uint64_t number = 0;
-  const int whole = TakeDigits(rest, number);
-  const bool hasPoint = !rest.empty() && rest.front() == '.';
-  if (hasPoint) rest.remove_prefix(1);
-  const int decimals = hasPoint ? TakeDigits(rest, number) : 0;
-  if (!rest.empty() || whole + decimals == 0) return std::nullopt;
-  if (whole + decimals > kExactDigits) return ParsedLong(text);
-  const double value = static_cast<double>(number) / kPowers[decimals];
+  std::size_t digits = 0;
+  std::optional<std::size_t> whole;
+  for (const char c : text.substr(isSigned ? 1 : 0)) {
+    const auto digit = static_cast<unsigned>(c - '0');
+    if (digit <= 9) {
+      number = number * 10 + digit;
+      ++digits;
+    } else if (c == '.' && !whole) {
+      whole = digits;
+    } else {
+      return std::nullopt;
+    }
+  }
+  if (digits == 0) return std::nullopt;
+  if (digits > kExactDigits) return ParsedLong(text);
+  const double value = static_cast<double>(number) / kPowers[digits - whole.value_or(digits)];
   return text.front() == '-' ? -value : value;
 }
 
@@ -186,7 +184,8 @@ std::string FormatPlain(double value) {
 }
 
 std::string RewriteFixed2(const std::string& text) {
-  return IsNumeric(text) ? FormatFixed2(NumericValue(text)) : text;
+  const auto number = NumberOf(text);
+  return number ? FormatFixed2(*number) : text;
 }
 
 }  // namespace corvane
