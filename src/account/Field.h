@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -19,6 +20,8 @@ struct Field {
 
   bool IsEmpty() const { return Trim(text).empty(); }
   bool IsNumber() const { return IsNumeric(text); }
+  /// Nothing when the field holds no number.
+  std::optional<double> Number() const { return NumberOf(text); }
   /// The number in the field, 0 when it holds none.
   double Value() const { return NumericValue(text); }
   bool operator==(const Field&) const = default;

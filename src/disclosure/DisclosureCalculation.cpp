@@ -2,8 +2,8 @@
 
 #include <span>
 
-#include "account/DailyRateFactor.h"
 #include "disclosure/EntryChecks.h"
+#include "disclosure/EntryNumbers.h"
 #include "disclosure/EntrySequence.h"
 #include "formulas/DisclosedYield.h"
 
@@ -17,22 +17,22 @@ std::span<const DisclosureEntry> CompletedEntries(const DisclosureCheck& check) 
   return std::span(check.entries).first(static_cast<std::size_t>(check.completed));
 }
 
-Deposit DepositOf(const DisclosureEntry& entry) {
-  return {.balance = entry.txtBal.Value(),
-          .rate = entry.txtIntRateA.Value(),
-          .term = entry.txtTerm.Value(),
-          .factorDays = FactorDays(entry.txtDailyRateFactor.text).value_or(0),
-          .begin = BeginOf(entry),
-          .withdrawals = {entry.txtWdrwlPeriods.Value(), entry.txtBtwnReqIntWdrwl.Value()}};
+Deposit DepositOf(const EntryNumbers& entry) {
+  return {.balance = entry.balance.value_or(0),
+          .rate = entry.rate.value_or(0),
+          .term = entry.term.value_or(0),
+          .factorDays = entry.factorDays.value_or(0),
+          .begin = entry.Begin(),
+          .withdrawals = {entry.withdrawals.value_or(0), entry.distance.value_or(0)}};
 }
 
 /// The row of an account or tier that is complete in itself.
-ResultRow RowOf(const DisclosureEntry& entry, int number, const Yield& yield) {
-  const double disclosed = entry.txtDiscAPY.Value();
+ResultRow RowOf(const EntryNumbers& entry, int number, const Yield& yield) {
+  const double disclosed = entry.disclosedApy.value_or(0);
   return {.number = number,
-          .balance = entry.txtBal.Value(),
-          .rates = {entry.txtIntRateA.Value()},
-          .term = entry.txtTerm.Value(),
+          .balance = entry.balance.value_or(0),
+          .rates = {entry.rate.value_or(0)},
+          .term = entry.term.value_or(0),
           .interest = yield.interest,
           .disclosedApy = disclosed,
           .apy = yield.apy,
@@ -44,10 +44,11 @@ Result ComputeEach(const DisclosureCheck& check, const AccountTerms& terms) {
   DisclosureResult result;
   int number = 0;
   for (const DisclosureEntry& entry : CompletedEntries(check)) {
-    const Deposit deposit = DepositOf(entry);
+    const EntryNumbers numbers(entry);
+    const Deposit deposit = DepositOf(numbers);
     const auto yield = RegularYield(terms, deposit);
     if (const auto failure = FailureOf(yield)) return *failure;
-    result.rows.push_back(RowOf(entry, ++number, std::get<Yield>(yield)));
+    result.rows.push_back(RowOf(numbers, ++number, std::get<Yield>(yield)));
     result.interest = result.rows.back().interest;
     result.factorDays = deposit.factorDays;
   }
@@ -93,15 +94,16 @@ Result ComputeTierEnds(const DisclosureCheck& check, const AccountTerms& terms) 
   DisclosureResult result;
   int number = 0;
   for (const DisclosureEntry& entry : CompletedEntries(check)) {
-    const Deposit deposit = DepositOf(entry);
+    const EntryNumbers numbers(entry);
+    const Deposit deposit = DepositOf(numbers);
     const auto yield = TieredYield(terms, tiers, deposit);
     if (const auto failure = FailureOf(yield)) return *failure;
     const int tier = TierOfEntry(++number);
-    ResultRow row = RowOf(entry, tier, std::get<Yield>(yield));
+    ResultRow row = RowOf(numbers, tier, std::get<Yield>(yield));
     row.rates.clear();
     for (int k = 0; k < tier; ++k) row.rates.push_back(tiers[static_cast<std::size_t>(k)].rate);
-    result.rows.push_back(row);
     result.interest = row.interest;
+    result.rows.push_back(std::move(row));
     result.factorDays = deposit.factorDays;
   }
   return result;
@@ -112,7 +114,7 @@ Result ComputeTierEnds(const DisclosureCheck& check, const AccountTerms& terms) 
 std::vector<Deposit> CompletedDeposits(const DisclosureCheck& check) {
   std::vector<Deposit> deposits;
   for (int k = 0; k < check.completed; ++k) {
-    deposits.push_back(DepositOf(check.entries.at(static_cast<std::size_t>(k))));
+    deposits.push_back(DepositOf(EntryNumbers(check.entries.at(static_cast<std::size_t>(k)))));
   }
   return deposits;
 }
@@ -131,17 +133,17 @@ int YearDaysOf(const DisclosureCheck& check) {
 AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry) {
   check.result.reset();
   auto refusal = CheckEntry(check, entry);
-  entry = Completed(check, entry);
+  Complete(check.setup, entry, !refusal);
   if (refusal) return {std::move(refusal)};
   KeepEntry(check, entry);
   ++check.completed;
   if (check.setup.IsTiered() && check.completed < EntryCount(check)) return {};
-  const Result computed = ComputeResult(check, TermsOf(check.setup));
+  Result computed = ComputeResult(check, TermsOf(check.setup));
   if (const auto failure = FailureOf(computed)) {
     --check.completed;
     return {RefusalOf(*failure)};
   }
-  check.result = std::get<DisclosureResult>(computed);
+  check.result = std::get<DisclosureResult>(std::move(computed));
   return {std::nullopt, true};
 }
 

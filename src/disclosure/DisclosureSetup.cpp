@@ -1,7 +1,6 @@
 #include "disclosure/DisclosureSetup.h"
 
 #include <algorithm>
-#include <set>
 
 #include "account/OrderedChecks.h"
 #include "support/Rounding.h"
@@ -55,45 +54,60 @@ constexpr OptionName<Setup> kOptions[] = {
 /// The interval as a whole number; nothing where it is not read: without compounding, and for a
 /// text that is no number, which is not refused but counts as 1.
 std::optional<double> Interval(const Setup& setup) {
-  if (setup.compounding == Unit::None || !setup.txtDailyCompounding.IsNumber()) return std::nullopt;
-  return RoundToDecimals(setup.txtDailyCompounding.Value(), 0);
+  const auto number =
+      setup.compounding == Unit::None ? std::nullopt : setup.txtDailyCompounding.Number();
+  return number ? std::optional(RoundToDecimals(*number, 0)) : std::nullopt;
 }
 
-bool Everyone(const Setup&) {
+/// What the checks look at.
+struct Checked {
+  const Setup& setup;
+  std::optional<double> interval = Interval(setup);
+
+  bool IsOpen(const char*) const { return true; }
+};
+
+bool Everyone(const Checked&) {
   return true;
 }
-bool HasInterval(const Setup& setup) {
-  return Interval(setup).has_value();
+bool HasInterval(const Checked& c) {
+  return c.interval.has_value();
 }
-bool HasIntervalOfMonths(const Setup& setup) {
-  return HasInterval(setup) && setup.compounding == Unit::Months;
+bool HasIntervalOfMonths(const Checked& c) {
+  return HasInterval(c) && c.setup.compounding == Unit::Months;
 }
-bool WithdrawsMonthlyFromDays(const Setup& setup) {
-  return HasInterval(setup) && setup.compounding == Unit::Days && setup.withdrawal == Unit::Months;
+bool WithdrawsMonthlyFromDays(const Checked& c) {
+  return HasInterval(c) && c.setup.compounding == Unit::Days && c.setup.withdrawal == Unit::Months;
 }
-bool IsMethodB(const Setup& setup) {
-  return setup.kind == AccountKind::TierB;
+bool IsMethodB(const Checked& c) {
+  return c.setup.kind == AccountKind::TierB;
 }
-bool IsNoInterval(const Setup& setup) {
-  return !(*Interval(setup) >= 0 && *Interval(setup) <= INT16_MAX);
+bool HasNoKind(const Checked& c) {
+  return !c.setup.kind;
 }
-bool IsNoPartOfAYear(const Setup& setup) {
+bool IsNoInterval(const Checked& c) {
+  return !(*c.interval >= 0 && *c.interval <= INT16_MAX);
+}
+bool IsNoPartOfAYear(const Checked& c) {
   // The periods per year, 12 / N, are defined for these only.
-  static const std::set<double> months = {1, 2, 3, 4, 6, 12};
-  return !months.contains(*Interval(setup));
+  constexpr double kMonths[] = {1, 2, 3, 4, 6, 12};
+  return std::ranges::find(kMonths, *c.interval) == std::end(kMonths);
+}
+bool IsAboveOne(const Checked& c) {
+  return *c.interval > 1;
+}
+bool IsMonthsFromMonths(const Checked& c) {
+  return c.setup.compounding == Unit::Months && c.setup.withdrawal == Unit::Months;
 }
 
-constexpr OrderedCheck<Setup> kChecks[] = {
-    {Everyone, [](const Setup& s) { return !s.kind; }, "Please select an Account Type.", "",
-     MessageIcon::None},
+constexpr OrderedCheck<Checked> kChecks[] = {
+    {Everyone, HasNoKind, "Please select an Account Type.", "", MessageIcon::None},
     {HasInterval, IsNoInterval, "Please enter a valid compounding interval.", kInterval},
     {HasIntervalOfMonths, IsNoPartOfAYear,
      "Months between compounding must be 1, 2, 3, 4, 6 or 12.", kInterval},
-    {WithdrawsMonthlyFromDays, [](const Setup& s) { return *Interval(s) > 1; },
+    {WithdrawsMonthlyFromDays, IsAboveOne,
      "Withdrawals measured in months need compounding every day or by months.", kInterval},
-    {IsMethodB,
-     [](const Setup& s) { return s.compounding == Unit::Months && s.withdrawal == Unit::Months; },
-     "Months/Months is not in production yet", ""},
+    {IsMethodB, IsMonthsFromMonths, "Months/Months is not in production yet", ""},
 };
 
 }  // namespace
@@ -149,7 +163,7 @@ IntervalCaptions CaptionsOf(const Setup& setup) {
 }
 
 std::optional<Refusal> CheckSetup(const Setup& setup) {
-  return FirstFailure<Setup>(kChecks, setup);
+  return FirstFailure<Checked>(kChecks, {setup});
 }
 
 int PeriodLength(const Setup& setup) {

@@ -21,7 +21,6 @@ struct DisclosureSetup {
   static std::span<const FieldName<DisclosureSetup>> Fields();
   static std::span<const OptionName<DisclosureSetup>> Options();
 
-  bool IsOpen(const char*) const { return true; }
   bool IsTiered() const { return kind && corvane::IsTiered(*kind); }
 };
 

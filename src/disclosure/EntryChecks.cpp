@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "account/DailyRateFactor.h"
 #include "account/OrderedChecks.h"
+#include "disclosure/EntryNumbers.h"
 #include "disclosure/EntryTerm.h"
 #include "formulas/TermCounting.h"
 #include "support/Rounding.h"
@@ -21,13 +21,15 @@ constexpr double kMostYears = 50;
 struct Checked {
   const DisclosureCheck& check;
   const DisclosureEntry& entry;
-  EntryTerm term;
+  EntryNumbers numbers = EntryNumbers(entry);
+  EntryTerm term = TermOf(check.setup, entry);
+  int periodLength = PeriodLength(check.setup);
 
   const DisclosureSetup& Setup() const { return check.setup; }
   Unit Compounding() const { return check.setup.compounding; }
   Unit Withdrawal() const { return check.setup.withdrawal; }
-  double W() const { return entry.txtWdrwlPeriods.Value(); }
-  double M() const { return entry.txtBtwnReqIntWdrwl.Value(); }
+  double W() const { return numbers.withdrawals.value_or(0); }
+  double M() const { return numbers.distance.value_or(0); }
   bool IsOpen(const char* control) const { return entry.IsOpen(control); }
 };
 
@@ -87,36 +89,34 @@ bool LeapDayCounted(const Checked& c) {
 
 // What is wrong.
 
-template <Field DisclosureEntry::*AField>
+template <std::optional<double> EntryNumbers::*ANumber>
 bool NotNumeric(const Checked& c) {
-  return !(c.entry.*AField).IsNumber();
+  return !(c.numbers.*ANumber);
 }
-template <Field DisclosureEntry::*AField>
+template <std::optional<double> EntryNumbers::*ANumber>
 bool NoPercentage(const Checked& c) {
-  return NotNumeric<AField>(c) || (c.entry.*AField).Value() < 0;
+  return !(c.numbers.*ANumber) || *(c.numbers.*ANumber) < 0;
 }
-bool IsNoPeriodNumber(const Field& number) {
-  return !IsWhole(number.Value()) || number.Value() < 2 || number.Value() > 10;
+bool IsNoPeriodNumber(std::optional<double> number) {
+  return !number || !IsWhole(*number) || *number < 2 || *number > 10;
 }
 bool CountOutside2To10(const Checked& c) {
-  return IsNoPeriodNumber(c.entry.txtTierPerNum);
+  return IsNoPeriodNumber(c.numbers.periodNumber);
 }
-bool IsNoMonth(const Field& month) {
-  const auto number = WholeNumber(month.text);
-  return !number || *number < 1 || *number > 12;
+bool IsMonth(std::optional<std::int16_t> number) {
+  return number && *number >= 1 && *number <= 12;
 }
 bool MonthOutsideYear(const Checked& c) {
-  return IsNoMonth(c.entry.txtBeginMonth);
+  return !IsMonth(c.numbers.beginMonth);
 }
 bool YearIsNoYear(const Checked& c) {
-  const auto year = WholeNumber(c.entry.txtBeginYear.text);
-  return !year || *year > kLastYear;
+  return !c.numbers.beginYear || *c.numbers.beginYear > kLastYear;
 }
 bool YearBefore1901(const Checked& c) {
-  return WholeNumber(c.entry.txtBeginYear.text).value_or(kFirstYear) < kFirstYear;
+  return c.numbers.beginYear.value_or(kFirstYear) < kFirstYear;
 }
 bool BalanceNotAboveZero(const Checked& c) {
-  return c.entry.txtBal.Value() <= 0;
+  return c.numbers.balance.value_or(0) <= 0;
 }
 bool StartDateInvalid(const Checked& c) {
   return !ParseDate(c.entry.tStartDate.text);
@@ -130,7 +130,7 @@ bool TermAbove50(const Checked& c) {
   return c.term.periods > kMostYears;
 }
 bool DistanceNotWhole(const Checked& c) {
-  return !c.entry.txtBtwnReqIntWdrwl.IsNumber() || !IsWhole(c.M());
+  return !c.numbers.distance || !IsWhole(c.M());
 }
 bool NoWithdrawal(const Checked& c) {
   return c.W() < 1;
@@ -142,23 +142,24 @@ bool TermNotDividedByWithdrawals(const Checked& c) {
   return c.W() == 0 || !IsWhole(*c.term.periods / c.W());
 }
 bool DistanceIsNotPeriodLength(const Checked& c) {
-  return c.M() != PeriodLength(c.Setup());
+  return c.M() != c.periodLength;
 }
 bool WithdrawalMonthsDoNotFillTerm(const Checked& c) {
   if (c.W() * c.M() > kMostWithdrawalMonths) return true;
-  const double days = MonthPeriodDays(BeginOf(c.entry), c.W(), c.M(), c.Setup().year.countsLeapDay);
-  return days != PeriodLength(c.Setup()) * *c.term.periods;
+  const double days =
+      MonthPeriodDays(c.numbers.Begin(), c.W(), c.M(), c.Setup().year.countsLeapDay);
+  return days != c.periodLength * *c.term.periods;
 }
 bool WithdrawalsUnusable(const Checked& c) {
   const bool tooMany = c.Withdrawal() == Unit::Months && c.W() * c.M() > kMostWithdrawalMonths;
-  return !c.entry.txtWdrwlPeriods.IsNumber() || !IsWhole(c.W()) || tooMany;
+  return !c.numbers.withdrawals || !IsWhole(c.W()) || tooMany;
 }
 bool WithdrawalsDifferFromPeriodLength(const Checked& c) {
-  return c.W() != PeriodLength(c.Setup());
+  return c.W() != c.periodLength;
 }
 /// By method B the person types one balance only, which lies in the tier without an upper bound.
 bool BalanceNotInLastTier(const Checked& c) {
-  return c.entry.txtBal.Value() <= TiersOf(c.check.tiers).back().above;
+  return c.numbers.balance.value_or(0) <= TiersOf(c.check.tiers).back().above;
 }
 std::optional<int> DaysFromStartToEnd(const Checked& c) {
   const auto start = ParseDate(c.entry.tStartDate.text);
@@ -170,9 +171,6 @@ bool DatesEqual(const Checked& c) {
 }
 bool EndBeforeStart(const Checked& c) {
   return DaysFromStartToEnd(c).value_or(0) < 0;
-}
-std::optional<double> Denominator(const Checked& c) {
-  return FactorDays(c.entry.txtDailyRateFactor.text);
 }
 bool EndDateEmpty(const Checked& c) {
   return c.entry.tEndDate.text == kEmptyDateMask;
@@ -194,22 +192,22 @@ constexpr const char* kWithdrawals = "txtWdrwlPeriods";
 constexpr const char* kDistance = "txtBtwnReqIntWdrwl";
 
 constexpr OrderedCheck<Checked> kChecks[] = {
-    {Stepped, NotNumeric<&DisclosureEntry::txtTierPerNum>,
-     "Please enter a valid period number value", kPeriods},
+    {Stepped, NotNumeric<&EntryNumbers::periodNumber>, "Please enter a valid period number value",
+     kPeriods},
     {Stepped, CountOutside2To10, kPeriodRange, kPeriods},
-    {Tiered, NotNumeric<&DisclosureEntry::txtTierPerNum>, "Please enter a valid Tier Number value",
+    {Tiered, NotNumeric<&EntryNumbers::periodNumber>, "Please enter a valid Tier Number value",
      kPeriods},
     {Tiered, CountOutside2To10, "Please enter a Tier number from 2 to 10 only.", kPeriods},
     {Everyone, MonthOutsideYear, "Please enter a valid Beginning Month value", "txtBeginMonth"},
     {Everyone, YearIsNoYear, "Please enter a valid Beginning Year value.", "txtBeginYear"},
     {Everyone, YearBefore1901, "Please enter a Year value above 1900.", "txtBeginYear"},
-    {Everyone, NoPercentage<&DisclosureEntry::txtDiscAPY>,
+    {Everyone, NoPercentage<&EntryNumbers::disclosedApy>,
      "Please enter a valid Disclosed APY value", "txtDiscAPY"},
-    {Everyone, NotNumeric<&DisclosureEntry::txtBal>,
-     "Please enter a valid Principal Balance Amount", kBalance},
+    {Everyone, NotNumeric<&EntryNumbers::balance>, "Please enter a valid Principal Balance Amount",
+     kBalance},
     {Everyone, BalanceNotAboveZero, "Please enter a valid Principal Balance Amount", kBalance},
-    {Everyone, NoPercentage<&DisclosureEntry::txtIntRateA>,
-     "Please enter a valid Interest Rate value", "txtIntRateA"},
+    {Everyone, NoPercentage<&EntryNumbers::rate>, "Please enter a valid Interest Rate value",
+     "txtIntRateA"},
     {ByCalendar, StartDateInvalid, "Starting Date is invalid, Please correct", kStart},
     {Everyone, TermUnusable, "Please enter a valid Compounding Period value", kTerm},
     {ByYears, TermAbove50, "Please enter a smaller number of years value to proceed.", kTerm},
@@ -236,13 +234,13 @@ constexpr OrderedCheck<Checked> kChecks[] = {
     {WithCalendar, DatesEqual, "Both the dates cannot be same. Please try again.", kEnd},
     {WithCalendar, EndBeforeStart,
      "The End date cannot be earlier than the Start date. Please try again.", kEnd},
-    {Everyone, [](const Checked& c) { return !Denominator(c); },
+    {Everyone, [](const Checked& c) { return !c.numbers.factorDays; },
      "Please enter a valid Daily Rate Factor", kFactor},
-    {YearOf365, [](const Checked& c) { return Denominator(c) == 366; },
+    {YearOf365, [](const Checked& c) { return c.numbers.factorDays == 366; },
      "Daily Rate Factor can't equal 366 if days selected equal 365", kFactor},
-    {LeapDayLeftOut, [](const Checked& c) { return Denominator(c) > 365; },
+    {LeapDayLeftOut, [](const Checked& c) { return c.numbers.factorDays > 365; },
      "Daily Rate Factor can not exceed 365", kFactor},
-    {LeapDayCounted, [](const Checked& c) { return Denominator(c) > 366; },
+    {LeapDayCounted, [](const Checked& c) { return c.numbers.factorDays > 366; },
      "Daily Rate Factor can not exceed 366", kFactor},
     {ByCalendar, EndDateEmpty, "Ending Date is invalid, Please correct", kEnd},
     {ByCalendar, EndDateInvalid, "Ending Date Date is invalid, Please correct", kEnd},
@@ -251,31 +249,25 @@ constexpr OrderedCheck<Checked> kChecks[] = {
 }  // namespace
 
 std::optional<Refusal> CheckEntry(const DisclosureCheck& check, const DisclosureEntry& entry) {
-  return FirstFailure<Checked>(kChecks, {check, entry, TermOf(check.setup, entry)});
+  return FirstFailure<Checked>(kChecks, {check, entry});
 }
 
-DisclosureEntry Completed(const DisclosureCheck& check, DisclosureEntry entry) {
-  if (entry.txtBeginMonth.enabled && !IsNoMonth(entry.txtBeginMonth)) {
-    entry.txtBeginMonth.text = FormatTwoDigits(*WholeNumber(entry.txtBeginMonth.text));
+void Complete(const DisclosureSetup& setup, DisclosureEntry& entry, bool passes) {
+  if (entry.txtBeginMonth.enabled) {
+    const auto month = WholeNumber(entry.txtBeginMonth.text);
+    if (IsMonth(month)) entry.txtBeginMonth.text = FormatTwoDigits(*month);
   }
-  if (!TermOf(check.setup, entry).fromCalendar || CheckEntry(check, entry)) return entry;
-  entry.txtTerm.text = CountedTermText(check.setup, entry).value_or(entry.txtTerm.text);
-  return entry;
+  if (!passes || !TermOf(setup, entry).fromCalendar) return;
+  entry.txtTerm.text = CountedTermText(setup, entry).value_or(entry.txtTerm.text);
 }
 
 std::optional<Refusal> CheckPeriodNumber(const Field& number) {
-  if (number.IsEmpty() || !IsNoPeriodNumber(number)) return std::nullopt;
+  if (number.IsEmpty() || !IsNoPeriodNumber(number.Number())) return std::nullopt;
   return Refusal{kPeriodRange, kPeriods};
 }
 
 bool IsRateMissing(const DisclosureEntry& entry) {
   return !entry.txtIntRateA.enabled && entry.txtIntRateA.IsEmpty();
-}
-
-std::chrono::year_month BeginOf(const DisclosureEntry& entry) {
-  const auto month = WholeNumber(entry.txtBeginMonth.text).value_or(0);
-  const auto year = WholeNumber(entry.txtBeginYear.text).value_or(0);
-  return std::chrono::year{year} / std::chrono::month{static_cast<unsigned>(month)};
 }
 
 }  // namespace corvane

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <optional>
 
 #include "account/Refusal.h"
@@ -12,9 +11,9 @@ namespace corvane {
 /// fields take part.
 std::optional<Refusal> CheckEntry(const DisclosureCheck& check, const DisclosureEntry& entry);
 
-/// The entry with what the checks write back: a valid beginning month gets two digits, and a term
-/// that two dates give is counted once all checks pass.
-DisclosureEntry Completed(const DisclosureCheck& check, DisclosureEntry entry);
+/// Writes back into the entry what the checks do: a valid beginning month gets two digits, and a
+/// term that two dates give is counted once all checks pass.
+void Complete(const DisclosureSetup& setup, DisclosureEntry& entry, bool passes);
 
 /// What the number-of-periods field refuses on leaving it: a text that is no whole number from 2
 /// to 10. An empty field is left alone.
@@ -22,8 +21,4 @@ std::optional<Refusal> CheckPeriodNumber(const Field& number);
 
 /// Whether the rate field is disabled and blank, which only a defect of the program can cause.
 bool IsRateMissing(const DisclosureEntry& entry);
-
-/// Beginning month and year of an entry; not ok() where they name no month.
-std::chrono::year_month BeginOf(const DisclosureEntry& entry);
-
 }  // namespace corvane

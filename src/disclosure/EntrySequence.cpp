@@ -1,8 +1,8 @@
 #include "disclosure/EntrySequence.h"
 
 #include "account/DailyRateFactor.h"
-#include "disclosure/EntryChecks.h"
 #include "disclosure/EntryLayout.h"
+#include "disclosure/EntryNumbers.h"
 #include "disclosure/EntryTerm.h"
 
 namespace corvane {
@@ -52,9 +52,10 @@ double MonthsOf(const DisclosureSetup& setup, const DisclosureEntry& entry) {
 }
 
 void BeginWherePreviousEnded(const DisclosureSetup& setup, DisclosureEntry& entry) {
-  if (!BeginOf(entry).ok()) return;
+  const std::chrono::year_month began = EntryNumbers(entry).Begin();
+  if (!began.ok()) return;
   const std::chrono::months months{static_cast<int>(MonthsOf(setup, entry))};
-  const std::chrono::year_month begin = BeginOf(entry) + months;
+  const std::chrono::year_month begin = began + months;
   entry.txtBeginMonth.text = FormatTwoDigits(static_cast<unsigned>(begin.month()));
   entry.txtBeginYear.text = FormatPlain(static_cast<int>(begin.year()));
 }
@@ -74,8 +75,9 @@ DisclosureEntry NextEntry(const DisclosureCheck& check) {
   return entry;
 }
 
-void Fix(Field& field, std::string text) {
-  field = {std::move(text), false};
+void Fix(Field& field, std::string_view text) {
+  field.text = text;
+  field.enabled = field.workedOut = false;
 }
 
 /// Number of periods, balance and disclosed APY belong to the account and stand with its first
@@ -123,8 +125,8 @@ void EmptyUnusedGroups(const DisclosureSetup& setup, DisclosureEntry& entry) {
     Fix(entry.txtBeginYear, "");
   }
   if (!groups.termDates) {
-    Fix(entry.tStartDate, std::string(kEmptyDateMask));
-    Fix(entry.tEndDate, std::string(kEmptyDateMask));
+    Fix(entry.tStartDate, kEmptyDateMask);
+    Fix(entry.tEndDate, kEmptyDateMask);
   }
   if (!groups.withdrawal) {
     Fix(entry.txtWdrwlPeriods, "");
@@ -202,9 +204,12 @@ DisclosureEntry PresentEntry(const DisclosureCheck& check) {
 
 void KeepEntry(DisclosureCheck& check, const DisclosureEntry& entry) {
   const auto place = static_cast<std::size_t>(check.completed);
-  if (place == check.entries.size()) check.entries.emplace_back();
   const int count = EntryCount(check);
-  check.entries.at(place) = entry;
+  if (place == check.entries.size()) {
+    check.entries.push_back(entry);
+  } else {
+    check.entries.at(place) = entry;
+  }
   const bool voidsOthers = check.setup.kind == AccountKind::Stepped && EntryCount(check) != count;
   if (voidsOthers) check.entries.resize(1);
 }

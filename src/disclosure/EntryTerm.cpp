@@ -34,7 +34,7 @@ bool StepsThroughPeriods(const DisclosureSetup& setup) {
 }  // namespace
 
 bool AsksForCalendar(const Field& term) {
-  return term.workedOut || term.IsEmpty() || (term.IsNumber() && term.Value() == 0);
+  return term.workedOut || term.IsEmpty() || term.Number() == 0.0;
 }
 
 bool HasCalendar(const DisclosureSetup& setup) {
@@ -45,7 +45,7 @@ EntryTerm TermOf(const DisclosureSetup& setup, const DisclosureEntry& entry) {
   EntryTerm term;
   term.fromCalendar = HasCalendar(setup) && AsksForCalendar(entry.txtTerm);
   if (!term.fromCalendar) {
-    if (entry.txtTerm.IsNumber()) term.periods = entry.txtTerm.Value();
+    term.periods = entry.txtTerm.Number();
     return term;
   }
   term.calendarDays = DaysBetweenDates(setup, entry);

@@ -21,8 +21,9 @@ bool Agrees(const PortfolioRow& first, const PortfolioRow& row, Column column) {
 }  // namespace
 
 bool IsWord(std::string_view cell, std::string_view word) {
+  const std::string_view text = Trim(cell);
   const auto same = [](char one, char other) { return SmallLetter(one) == SmallLetter(other); };
-  return std::ranges::equal(Trim(cell), word, same);
+  return text == word || std::ranges::equal(text, word, same);
 }
 
 bool IsStatement(const PortfolioRow& row) {

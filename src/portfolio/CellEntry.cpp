@@ -37,6 +37,7 @@ bool Told::Refuses(std::optional<Refusal> why) {
 }
 
 std::string Typed(std::string_view cell, const DecimalLimit& limit, Told& told) {
+  if (cell.empty()) return "";
   if (!IsNumeric(cell)) {
     // What is no number even so stays for the checks to refuse.
     const auto number = CleanPastedNumber(cell, limit.kind);
@@ -48,21 +49,12 @@ std::string Typed(std::string_view cell, const DecimalLimit& limit, Told& told) 
   return Narrow(limited.text);
 }
 
-std::string Typed(std::string_view cell, std::span<const DecimalLimit> limits, const char* control,
-                  Told& told) {
-  for (const DecimalLimit& limit : limits) {
-    if (std::string_view(limit.control) == control) return Typed(cell, limit, told);
-  }
-  return std::string(cell);
-}
-
 std::optional<Refusal> CheckClosed(std::string_view cell, std::string_view stands, Column column) {
   const std::string_view text = Trim(cell);
   if (text.empty() || text == Trim(stands)) return std::nullopt;
-  const bool isZero = IsNumeric(text) && NumericValue(text) == 0;
-  const bool isSame =
-      IsNumeric(text) && IsNumeric(stands) && NumericValue(text) == NumericValue(stands);
-  if (isZero || isSame || IsWord(text, stands)) return std::nullopt;
+  const auto number = NumberOf(text);
+  const bool isSame = number && (number == 0.0 || number == NumberOf(stands));
+  if (isSame || IsWord(text, stands)) return std::nullopt;
   const std::string place = "The column " + std::string(NameOf(column)) + " has to be empty ";
   return Refusal{place + (Trim(stands).empty() ? "for this account."
                                                : "or " + std::string(Trim(stands)) + " here.")};
@@ -76,9 +68,14 @@ Refusal NoWordOf(Column column, std::span<const OptionWord> words) {
   return {"The column " + std::string(NameOf(column)) + " has to be one of: " + known + "."};
 }
 
+std::optional<Date> DateOf(std::string_view cell) {
+  const auto date = ParseDate(cell);
+  return date ? date : ReadPastedDate(cell);
+}
+
 std::string DateText(std::string_view cell) {
   if (Trim(cell).empty()) return std::string(kEmptyDateMask);
-  const auto date = ParseDate(cell) ? ParseDate(cell) : ReadPastedDate(cell);
+  const auto date = DateOf(cell);
   return date ? FormatDate(*date) : std::string(cell);
 }
 

@@ -11,6 +11,7 @@
 #include "account/NumericEntry.h"
 #include "account/TierTable.h"
 #include "portfolio/AccountRows.h"
+#include "support/Dates.h"
 
 namespace corvane {
 
@@ -28,36 +29,42 @@ struct Told {
 
 /// Puts a cell into a numeric field as a paste does: "$1,234.50" gives "1234.50", and what has too
 /// many decimals is cut.
-std::string Typed(std::string_view cell, std::span<const DecimalLimit> limits, const char* control,
-                  Told& told);
 std::string Typed(std::string_view cell, const DecimalLimit& limit, Told& told);
-
-/// A column and the field that its cells are typed into.
-template <class Values>
-struct FieldColumn {
-  Column column;
-  Field Values::*field;
-  const char* control;
-};
 
 /// Why a cell has no place where nothing can be typed: it is neither empty nor 0 and says something
 /// else than what stands there.
 std::optional<Refusal> CheckClosed(std::string_view cell, std::string_view stands, Column column);
 
-/// Types a cell into its field, or refuses it where the field is closed. An empty cell leaves what
-/// stands there, and nothing is typed behind a refusal.
+/// The decimals that a field takes; nothing where it is no field of decimals.
 template <class Values>
-void TypeCell(Values& values, const FieldColumn<Values>& column, std::string_view cell,
-              Told& told) {
-  Field& field = values.*column.field;
-  if (told.refusal || cell.empty()) return;
-  if (!field.enabled) {
-    told.Refuses(CheckClosed(cell, field.text, column.column));
-    return;
+const DecimalLimit* LimitOf(Field Values::*field) {
+  for (const DecimalLimit& limit : Values::Decimals()) {
+    if (std::string_view(NameOf(field)) == limit.control) return &limit;
   }
-  field.text = Typed(cell, Values::Decimals(), column.control, told);
-  field.workedOut = false;
+  return nullptr;
 }
+
+/// A column and the field of a window's values that its cells are typed into.
+template <class Values>
+struct FieldColumn {
+  Column column;
+  Field Values::*field;
+  const DecimalLimit* limit = LimitOf(field);
+
+  /// Types a cell; an empty one leaves the field as it stands, and a closed field takes nothing
+  /// else than what it shows. Nothing is typed behind a refusal.
+  void Type(const PortfolioRow& row, Values& values, Told& told) const {
+    const std::string_view cell = row.Cell(column);
+    Field& typed = values.*field;
+    if (told.refusal || cell.empty()) return;
+    if (!typed.enabled) {
+      told.refusal = CheckClosed(cell, typed.text, column);
+      return;
+    }
+    typed.text = limit ? Typed(cell, *limit, told) : std::string(cell);
+    typed.workedOut = false;
+  }
+};
 
 /// A word of a column and the option that it chooses.
 struct OptionWord {
@@ -106,8 +113,10 @@ class OptionWords {
   std::vector<const OptionName<Values>*> options_;
 };
 
-/// A date as its field holds it, read as one that is pasted: "2024-01-31" and "1/31/2024" give
-/// "01-31-2024"; any other text stays as it is.
+/// A date that is read as one that is pasted, such as "2024-01-31" and "1/31/2024".
+std::optional<Date> DateOf(std::string_view cell);
+
+/// A date as its field holds it, "01-31-2024"; a text that is none stays as it is.
 std::string DateText(std::string_view cell);
 
 /// The identification texts of a row.

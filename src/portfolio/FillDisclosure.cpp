@@ -36,20 +36,23 @@ const OptionWords<DisclosureSetup>& Words() {
 
 using EntryColumn = FieldColumn<Entry>;
 
-/// What a row says of an entry beside its term and dates.
-constexpr EntryColumn kEntryColumns[] = {
-    {Column::Rate, &Entry::txtIntRateA, "txtIntRateA"},
-    {Column::DailyRateFactor, &Entry::txtDailyRateFactor, "txtDailyRateFactor"},
-    {Column::WithdrawalPeriods, &Entry::txtWdrwlPeriods, "txtWdrwlPeriods"},
-    {Column::WithdrawalDistance, &Entry::txtBtwnReqIntWdrwl, "txtBtwnReqIntWdrwl"},
-    {Column::Term, &Entry::txtTerm, "txtTerm"},
+/// What every row says of an entry beside its dates.
+const EntryColumn kEntryColumns[] = {
+    {Column::Rate, &Entry::txtIntRateA},
+    {Column::DailyRateFactor, &Entry::txtDailyRateFactor},
+    {Column::WithdrawalPeriods, &Entry::txtWdrwlPeriods},
+    {Column::WithdrawalDistance, &Entry::txtBtwnReqIntWdrwl},
+    {Column::Term, &Entry::txtTerm},
 };
+const EntryColumn kDisclosedApy = {Column::DisclosedApy, &Entry::txtDiscAPY};
+const EntryColumn kDisclosedApyHigh = {Column::DisclosedApyHigh, &Entry::txtDiscAPY};
+const EntryColumn kBalance = {Column::Balance, &Entry::txtBal};
 
 /// Facts of an account rather than choices: they are not read where the account has no use for
 /// them.
-constexpr EntryColumn kCalendarColumns[] = {
-    {Column::BeginMonth, &Entry::txtBeginMonth, "txtBeginMonth"},
-    {Column::BeginYear, &Entry::txtBeginYear, "txtBeginYear"},
+const EntryColumn kCalendarColumns[] = {
+    {Column::BeginMonth, &Entry::txtBeginMonth},
+    {Column::BeginYear, &Entry::txtBeginYear},
 };
 
 /// Whether the setup window offers the choice that a column names.
@@ -63,11 +66,10 @@ bool IsOffered(const DisclosureSetup& setup, Column column, std::string_view wor
 /// Fills one account.
 class Filling {
  public:
-  explicit Filling(Rows rows) : rows_(rows) {}
+  Filling(Rows rows, FilledDisclosure& filled) : rows_(rows), filled_(filled) {}
 
-  FilledDisclosure Result() {
+  void Fill() {
     if (TakeSetup() && TakeTierTable()) TakeEntries();
-    return std::move(filled_);
   }
 
  private:
@@ -132,10 +134,9 @@ class Filling {
     const bool isFirstPeriod = check.setup.kind == AccountKind::Stepped && check.completed == 0;
     if (isFirstPeriod) entry.txtTierPerNum.text = std::to_string(rows_.size());
     TypeRow(entry, row);
-    const Column disclosed = isHighEnd ? Column::DisclosedApyHigh : Column::DisclosedApy;
-    Type(entry, row, {disclosed, &Entry::txtDiscAPY, "txtDiscAPY"});
+    (isHighEnd ? kDisclosedApyHigh : kDisclosedApy).Type(row, entry, filled_.told);
     // The balance of a row stands at the high end of its tier.
-    if (!isLowEnd) Type(entry, row, {Column::Balance, &Entry::txtBal, "txtBal"});
+    if (!isLowEnd) kBalance.Type(row, entry, filled_.told);
     if (!isHighEnd && !isLowEnd) CheckUnused(row, Column::DisclosedApyHigh);
     if (!check.setup.IsTiered()) CheckUnused(row, Column::NotExceeding);
     if (Goes()) {
@@ -151,9 +152,9 @@ class Filling {
     // Whoever types dates empties the term that was carried over.
     if (hasDates && row.Cell(Column::Term).empty() && entry.txtTerm.enabled)
       entry.txtTerm.text = "";
-    for (const EntryColumn& column : kEntryColumns) Type(entry, row, column);
+    for (const EntryColumn& column : kEntryColumns) column.Type(row, entry, filled_.told);
     for (const EntryColumn& column : kCalendarColumns) {
-      if ((entry.*column.field).enabled) Type(entry, row, column);
+      if ((entry.*column.field).enabled) column.Type(row, entry, filled_.told);
     }
     TypeDates(entry, row);
   }
@@ -172,22 +173,20 @@ class Filling {
     if (!open && !typedOnce) entry.tStartDate.text = entry.tEndDate.text = kEmptyDateMask;
   }
 
-  void Type(DisclosureEntry& entry, const PortfolioRow& row, const EntryColumn& column) {
-    TypeCell(entry, column, row.Cell(column.column), filled_.told);
-  }
-
   void CheckUnused(const PortfolioRow& row, Column column) {
     if (Goes()) filled_.told.Refuses(CheckClosed(row.Cell(column), "", column));
   }
 
   Rows rows_;
-  FilledDisclosure filled_;
+  FilledDisclosure& filled_;
 };
 
 }  // namespace
 
 FilledDisclosure FillDisclosure(Rows rows) {
-  return Filling(rows).Result();
+  FilledDisclosure filled;
+  Filling(rows, filled).Fill();
+  return filled;
 }
 
 }  // namespace corvane

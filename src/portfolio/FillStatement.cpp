@@ -33,17 +33,16 @@ const OptionWords<Entry>& WordsOf(const Entry&) {
 
 using EntryColumn = FieldColumn<Entry>;
 
-constexpr EntryColumn kEntryColumns[] = {
-    {Column::MinimumAdb, &Entry::txtMinADB, "txtMinADB"},
-    {Column::MinimumDaily, &Entry::txtMinDBal, "txtMinDBal"},
-    {Column::DisclosedApy, &Entry::txtDClApy, "txtDClApy"},
-    {Column::DailyRateFactor, &Entry::txtDRFactor, "txtDRFactor"},
-    {Column::Days, &Entry::txtLedgerdays, "txtLedgerdays"},
+const EntryColumn kEntryColumns[] = {
+    {Column::MinimumAdb, &Entry::txtMinADB},   {Column::MinimumDaily, &Entry::txtMinDBal},
+    {Column::DisclosedApy, &Entry::txtDClApy}, {Column::DailyRateFactor, &Entry::txtDRFactor},
+    {Column::Days, &Entry::txtLedgerdays},
 };
+const EntryColumn kRate = {Column::Rate, &Entry::txtIntRate};
 
-constexpr EntryColumn kFigureColumns[] = {
-    {Column::AverageBalance, &Entry::txtADBLedgerBalance, "txtADBLedgerBalance"},
-    {Column::Interest, &Entry::txtIntAmt, "txtIntAmt"},
+const EntryColumn kFigureColumns[] = {
+    {Column::AverageBalance, &Entry::txtADBLedgerBalance},
+    {Column::Interest, &Entry::txtIntAmt},
 };
 
 Refusal DayRefusal(const DayRow& row, const std::string& what) {
@@ -52,11 +51,11 @@ Refusal DayRefusal(const DayRow& row, const std::string& what) {
 
 class Filling {
  public:
-  explicit Filling(const AccountRows& account) : account_(account), row_(account.rows.front()) {}
+  Filling(const AccountRows& account, FilledStatement& filled)
+      : account_(account), row_(account.rows.front()), filled_(filled) {}
 
-  FilledStatement Result() {
+  void Fill() {
     if (TakeSetup() && TakeTierTable() && TakeEntry() && TakeDays()) Calculate();
-    return std::move(filled_);
   }
 
  private:
@@ -106,8 +105,8 @@ class Filling {
     ChooseMethod(entry);
     entry.txtDateStart.text = DateText(Cell(Column::StartDate));
     entry.txtDateEnd.text = DateText(Cell(Column::EndDate));
-    for (const EntryColumn& column : kEntryColumns) Type(entry, column);
-    if (!IsTiered(check.setup.kind)) Type(entry, {Column::Rate, &Entry::txtIntRate, "txtIntRate"});
+    for (const EntryColumn& column : kEntryColumns) column.Type(row_, entry, filled_.told);
+    if (!IsTiered(check.setup.kind)) kRate.Type(row_, entry, filled_.told);
     if (!Goes()) return false;
     FollowChanges(check);
     return CountDays();
@@ -118,10 +117,6 @@ class Filling {
     if (!LocksMethod(filled_.check.setup)) return Choose(entry, Column::Method);
     const std::string_view stands = WordsOf(entry).ChosenWord(Column::Method, entry);
     filled_.told.Refuses(CheckClosed(Cell(Column::Method), stands, Column::Method));
-  }
-
-  void Type(Entry& entry, const EntryColumn& column) {
-    TypeCell(entry, column, Cell(column.column), filled_.told);
   }
 
   /// Days that the row leaves out are counted from its dates, as by the calendar.
@@ -144,7 +139,7 @@ class Filling {
     StatementCheck& check = filled_.check;
     if (!account_.days || account_.days->rows.empty()) return true;
     if (!Passes(StartCompute(check, BalanceColumn::Ledger))) return false;
-    const auto first = ParseDate(DateText(account_.days->rows.front().date));
+    const auto first = DateOf(account_.days->rows.front().date);
     DailyBalances daily = DaysOf(check, BalanceColumn::Ledger, first.value_or(Date{}));
     if (!TypeDays(daily)) return false;
     FillRates(daily);
@@ -172,7 +167,7 @@ class Filling {
   std::optional<Refusal> TypeDay(DailyBalances& daily, const DayRow& row,
                                  std::vector<bool>& typed) {
     if (*row.damage) return DayRefusal(row, row.damage);
-    const auto date = ParseDate(DateText(row.date));
+    const auto date = DateOf(row.date);
     if (!date) return DayRefusal(row, "\"" + row.date + "\" is no date.");
     const int place = DaysBetween(daily.start, *date);
     if (place < 0 || place >= static_cast<int>(daily.days.size())) return std::nullopt;
@@ -187,19 +182,21 @@ class Filling {
 
   void Calculate() {
     StatementCheck& check = filled_.check;
-    for (const EntryColumn& column : kFigureColumns) Type(check.entry, column);
+    for (const EntryColumn& column : kFigureColumns) column.Type(row_, check.entry, filled_.told);
     if (Goes()) Passes(CalculateStatement(check));
   }
 
   const AccountRows& account_;
   const PortfolioRow& row_;
-  FilledStatement filled_;
+  FilledStatement& filled_;
 };
 
 }  // namespace
 
 FilledStatement FillStatement(const AccountRows& account) {
-  return Filling(account).Result();
+  FilledStatement filled;
+  Filling(account, filled).Fill();
+  return filled;
 }
 
 }  // namespace corvane

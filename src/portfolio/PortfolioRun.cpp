@@ -1,5 +1,6 @@
 #include "portfolio/PortfolioRun.h"
 
+#include <oneapi/tbb/concurrent_queue.h>
 #include <oneapi/tbb/global_control.h>
 #include <oneapi/tbb/parallel_pipeline.h>
 #include <oneapi/tbb/task_arena.h>
@@ -32,9 +33,11 @@ void RunPortfolio(AccountReader& reader, const RunOptions& options, const std::a
   using Batch = std::shared_ptr<CheckedBatch>;
   using tbb::filter_mode;
   std::atomic<bool> stopped = false;
+  tbb::concurrent_queue<Batch> written;  // to be filled again: their memory stays
   const auto read = tbb::make_filter<void, Batch>(
       filter_mode::serial_in_order, [&](tbb::flow_control& control) -> Batch {
-        auto batch = std::make_shared<CheckedBatch>();
+        Batch batch;
+        if (!written.try_pop(batch)) batch = std::make_shared<CheckedBatch>();
         const bool goes = !stopped && !cancel && reader.Read(batch->accounts, kRowsOfBatch);
         // A source that is cancelled may end in the middle of a row.
         if (!goes || cancel) control.stop();
@@ -47,6 +50,8 @@ void RunPortfolio(AccountReader& reader, const RunOptions& options, const std::a
   const auto write =
       tbb::make_filter<Batch, void>(filter_mode::serial_in_order, [&](const Batch& batch) {
         if (!stopped && !take(*batch)) stopped = true;
+        batch->Clear();
+        written.push(batch);
       });
   const auto threads = static_cast<std::size_t>(options.threads);
   const tbb::global_control limit(tbb::global_control::max_allowed_parallelism, threads);

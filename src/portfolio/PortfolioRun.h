@@ -13,6 +13,13 @@ struct CheckedBatch {
   AccountBatch accounts;
   std::vector<AccountOutcome> outcomes;  ///< one for each account
   std::string text;                      ///< the rows as the run writes them
+
+  /// Empties it, keeping its memory for the next accounts.
+  void Clear() {
+    accounts.Clear();
+    outcomes.clear();
+    text.clear();
+  }
 };
 
 /// Which accounts the run writes: all, those with a violation, or those that were refused.

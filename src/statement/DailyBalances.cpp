@@ -12,7 +12,8 @@ namespace corvane {
 namespace {
 
 std::string RewriteRate(const std::string& text) {
-  return IsNumeric(text) ? FormatRate(NumericValue(text)) : text;
+  const auto number = NumberOf(text);
+  return number ? FormatRate(*number) : text;
 }
 
 std::string RuleRate(const DailyBalances& daily, const DayEntry& day) {
@@ -69,8 +70,10 @@ std::optional<Refusal> CheckPage(const DailyBalances& daily, int page) {
   for (std::size_t day = span.first; day < span.end; ++day) {
     const auto& [balance, rate] = daily.days[day];
     if (IsNoNumber(balance)) return RefusalOfDay(daily, {day});
-    const bool noRate = IsNoNumber(rate) || NumericValue(rate) < 0;
-    if (daily.TakesRates() && noRate) return RefusalOfDay(daily, {day, true});
+    const auto isNoRate = [](const std::string& text) {
+      return IsNoNumber(text) || NumericValue(text) < 0;
+    };
+    if (daily.TakesRates() && isNoRate(rate)) return RefusalOfDay(daily, {day, true});
   }
   return std::nullopt;
 }

@@ -12,21 +12,34 @@ namespace corvane {
 
 namespace {
 
-bool IsBlank(char c) {
-  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+/// The digits of a whole number, a point before so many of the last.
+std::string WithPoint(std::uint64_t digits, int decimals, bool isNegative) {
+  char text[24];
+  char* const end = text + sizeof text;
+  char* at = end;
+  for (int place = 0; digits > 0 || place <= decimals; ++place, digits /= 10) {
+    if (place == decimals && decimals > 0) *--at = '.';
+    *--at = static_cast<char>('0' + digits % 10);
+  }
+  if (isNegative) *--at = '-';
+  return std::string(at, end);
 }
 
 /// The value with so many decimals, rounded by the one rule; no locale decides its decimal point,
 /// and nothing is left of the sign of a zero.
 std::string FixedText(double value, int decimals) {
+  constexpr double kMostExact = 4503599627370496.0;  // 2^52: a double holds all digits up to here
+  constexpr double kPowers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
+  const double rounded = RoundToDecimals(value, decimals);
+  const double scaled = std::fabs(rounded) * kPowers[decimals];
+  if (scaled < kMostExact) {
+    const auto digits = static_cast<std::uint64_t>(scaled + 0.5);
+    return WithPoint(digits, decimals, rounded < 0 && digits > 0);
+  }
   char text[400];
-  const auto end = std::to_chars(text, text + sizeof text, RoundToDecimals(value, decimals),
-                                 std::chars_format::fixed, decimals)
-                       .ptr;
-  std::string fixed(text, end);
-  const bool onlyZeros = fixed.find_first_not_of("-0.") == std::string::npos;
-  if (onlyZeros && fixed.front() == '-') fixed.erase(0, 1);
-  return fixed;
+  char* const end =
+      std::to_chars(text, text + sizeof text, rounded, std::chars_format::fixed, decimals).ptr;
+  return std::string(text, end);
 }
 
 /// The number text with a comma before every three digits of its whole part.
@@ -50,51 +63,14 @@ std::optional<double> ParsedLong(std::string_view text) {
   return isHuge ? std::nullopt : std::optional(value);
 }
 
-/// Takes the digits at the beginning of a text away from it and appends them to the number. How
-/// many.
-int TakeDigits(std::string_view& text, std::uint64_t& number) {
-  const auto* at = text.begin();
-  for (; at != text.end() && *at >= '0' && *at <= '9'; ++at) {
-    number = number * 10 + static_cast<std::uint64_t>(*at - '0');
-  }
-  const auto count = at - text.begin();
-  text.remove_prefix(static_cast<std::size_t>(count));
-  return static_cast<int>(count);
-}
-
-/// The number, or nothing when the text is none or a double cannot hold it; 0 would be wrong there.
-std::optional<double> Parsed(std::string_view text) {
-  // Up to here a double holds digits and power of ten as they are, and their quotient is the
-  // nearest one to the decimal number.
-  constexpr int kExactDigits = 15;
-  constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-  text = Trim(text);
-  std::string_view rest = text;
-  if (!rest.empty() && (rest.front() == '+' || rest.front() == '-')) rest.remove_prefix(1);
-  std::uint64_t number = 0;
-  const int whole = TakeDigits(rest, number);
-  const bool hasPoint = !rest.empty() && rest.front() == '.';
-  if (hasPoint) rest.remove_prefix(1);
-  const int decimals = hasPoint ? TakeDigits(rest, number) : 0;
-  if (!rest.empty() || whole + decimals == 0) return std::nullopt;
-  if (whole + decimals > kExactDigits) return ParsedLong(text);
-  const double value = static_cast<double>(number) / kPowers[decimals];
-  return text.front() == '-' ? -value : value;
-}
-
 }  // namespace
-
-std::string_view Trim(std::string_view text) {
-  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-  return text;
-}
 
 std::string WithKeyboardSigns(std::string_view text) {
   constexpr std::pair<std::string_view, std::string_view> kSigns[] = {
       {"\u00a0", " "}, {"\u2007", " "}, {"\u2009", " "}, {"\u202f", " "}, {"\u2212", "-"}};
   std::string plain(text);
+  const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  if (std::ranges::all_of(text, isAscii)) return plain;
   for (const auto& [sign, key] : kSigns) {
     for (auto at = plain.find(sign); at != plain.npos; at = plain.find(sign, at)) {
       plain.replace(at, sign.size(), key);
@@ -103,12 +79,40 @@ std::string WithKeyboardSigns(std::string_view text) {
   return plain;
 }
 
+std::optional<double> NumberOf(std::string_view text) {
+  // Up to here a double holds digits and power of ten as they are, and their quotient is the
+  // nearest one to the decimal number.
+  constexpr std::size_t kExactDigits = 15;
+  constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  text = Trim(text);
+  const bool isSigned = text.starts_with('+') || text.starts_with('-');
+  std::uint64_t number = 0;
+  std::size_t digits = 0;
+  std::optional<std::size_t> whole;
+  for (const char c : text.substr(isSigned ? 1 : 0)) {
+    const auto digit = static_cast<unsigned>(c - '0');
+    if (digit <= 9) {
+      number = number * 10 + digit;
+      ++digits;
+    } else if (c == '.' && !whole) {
+      whole = digits;
+    } else {
+      return std::nullopt;
+    }
+  }
+  if (digits == 0) return std::nullopt;
+  if (digits > kExactDigits) return ParsedLong(text);
+  const double value = static_cast<double>(number) / kPowers[digits - whole.value_or(digits)];
+  return text.front() == '-' ? -value : value;
+}
+
 bool IsNumeric(std::string_view text) {
-  return Parsed(text).has_value();
+  return NumberOf(text).has_value();
 }
 
 double NumericValue(std::string_view text) {
-  return Parsed(text).value_or(0);
+  return NumberOf(text).value_or(0);
 }
 
 std::optional<std::int16_t> WholeNumber(double value) {
@@ -118,7 +122,7 @@ std::optional<std::int16_t> WholeNumber(double value) {
 }
 
 std::optional<std::int16_t> WholeNumber(std::string_view text) {
-  const auto number = Parsed(text);
+  const auto number = NumberOf(text);
   return number ? WholeNumber(*number) : std::nullopt;
 }
 
@@ -180,7 +184,8 @@ std::string FormatPlain(double value) {
 }
 
 std::string RewriteFixed2(const std::string& text) {
-  return IsNumeric(text) ? FormatFixed2(NumericValue(text)) : text;
+  const auto number = NumberOf(text);
+  return number ? FormatFixed2(*number) : text;
 }
 
 }  // namespace corvane

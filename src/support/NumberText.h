@@ -8,15 +8,23 @@
 namespace corvane {
 
 /// Text without the blanks at its ends.
-std::string_view Trim(std::string_view text);
+constexpr std::string_view Trim(std::string_view text) {
+  const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
 
 /// The text (UTF-8) with blanks that do not break, narrow blanks and the minus sign of other
 /// programs as those of the keyboard.
 std::string WithKeyboardSigns(std::string_view text);
 
-/// True when the text, blanks trimmed, is an optional sign, digits and at most one point, with at
-/// least one digit. Thousands commas, exponents and currency signs make it no number, and so does a
-/// size that a double cannot hold; the decimal point is "." in every locale.
+/// The number of a text that, blanks trimmed, is an optional sign, digits and at most one point,
+/// with at least one digit. Thousands commas, exponents and currency signs make it no number, and
+/// so does a size that a double cannot hold; the decimal point is "." in every locale.
+std::optional<double> NumberOf(std::string_view text);
+
+/// Whether the text is a number.
 bool IsNumeric(std::string_view text);
 
 /// The number that the text stands for, 0 when it is none.

@@ -25,23 +25,21 @@ double BinaryNoise(double scaled) {
   return std::min(noise, kMost);
 }
 
-bool IsEven(double whole) {
-  return static_cast<std::int64_t>(whole) % 2 == 0;
-}
-
 }  // namespace
 
 double RoundToDecimals(double value, int decimals) {
   const double scale = kPowersOfTen[decimals];
   const double scaled = value * scale;
   if (!(std::fabs(scaled) < kLargestFraction)) return value;
-  const double below = std::floor(scaled);
+  // As std::floor and std::round, which are calls where the processor's own rounding is not known.
+  const auto towardsZero = static_cast<std::int64_t>(scaled);
+  const std::int64_t below = towardsZero - (scaled < static_cast<double>(towardsZero) ? 1 : 0);
+  const double fraction = scaled - static_cast<double>(below);
   // At 15 decimals the tolerance would swallow every value; there only a real half is one.
   const double tolerance = decimals > 8 ? 0 : std::max(kHalfTolerance * scale, BinaryNoise(scaled));
-  if (std::fabs(scaled - below - 0.5) <= tolerance) {
-    return (IsEven(below) ? below : below + 1) / scale;
-  }
-  return std::round(scaled) / scale;
+  const bool isHalf = std::fabs(fraction - 0.5) <= tolerance;
+  const bool goesUp = isHalf ? below % 2 != 0 : fraction > 0.5;
+  return static_cast<double>(below + (goesUp ? 1 : 0)) / scale;
 }
 
 }  // namespace corvane

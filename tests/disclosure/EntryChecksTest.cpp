@@ -34,7 +34,12 @@ TEST(DisclosureEntryChecks, EachFailsInItsTurnAndNothingElseIsRefused) {
                    return Put(check.setup, name, text) || Type(check, entry, name, text);
                  },
              .said = [&] { return Said(CheckEntry(check, entry)); },
-             .shown = [&](auto& name) { return ShownBy(Completed(check, entry), name); }});
+             .shown =
+                 [&](auto& name) {
+                   DisclosureEntry completed = entry;
+                   Complete(check.setup, completed, !CheckEntry(check, entry));
+                   return ShownBy(completed, name);
+                 }});
 }
 
 }  // namespace
