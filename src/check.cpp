@@ -18,6 +18,14 @@ void Interrupt(int signal) {
   std::signal(signal, SIG_DFL);
 }
 
+/// The end of the terminal or of the system is such an interruption too, but for what the program
+/// was started to ignore, as nohup does it.
+void HandleInterruptions() {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    if (std::signal(signal, Interrupt) == SIG_IGN) std::signal(signal, SIG_IGN);
+  }
+}
+
 void AddOptions(CLI::App& app, corvane::CheckArguments& arguments) {
   using corvane::Only;
   app.add_option("FILE", arguments.files, "Files to check; \"-\" reads standard input")->required();
@@ -54,6 +62,6 @@ int main(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? 0 : static_cast<int>(corvane::ExitStatus::FileError);
   }
-  std::signal(SIGINT, Interrupt);
+  HandleInterruptions();
   return static_cast<int>(corvane::CheckRun(std::move(arguments), interrupted).Run());
 }

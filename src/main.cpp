@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "platform/Arguments.h"
+#include "platform/EndRequests.h"
 #include "platform/HelpView.h"
 #include "platform/Pictures.h"
 #include "platform/WebView.h"
@@ -25,6 +26,9 @@ int main(int argc, char** argv) {
 
   corvane::Session session;
   corvane::WindowRegistry windows(session);
+  const corvane::EndRequests endRequests;
+  QObject::connect(&endRequests, &corvane::EndRequests::Requested,
+                   [&windows] { windows.EndProcess(); });
   windows.routes().ShowDisclaimer();
   return QApplication::exec();
 }

@@ -2,12 +2,12 @@
 
 namespace corvane {
 
-std::filesystem::path MakeDataFolder(const std::filesystem::path& documents) {
+DataFolder MakeDataFolder(const std::filesystem::path& documents) {
   if (!documents.is_absolute()) return {};
   const std::filesystem::path folder = documents / "CORVANEWIN21";
-  std::error_code ignored;
-  std::filesystem::create_directories(folder, ignored);
-  return folder;
+  std::error_code failure;
+  std::filesystem::create_directories(folder, failure);
+  return {folder, failure ? failure.message() : ""};
 }
 
 }  // namespace corvane

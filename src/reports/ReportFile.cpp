@@ -78,4 +78,10 @@ WrittenReport WriteReport(const std::filesystem::path& templateFile,
   return report;
 }
 
+bool HoldsReport(const std::filesystem::path& file, const std::string& text) {
+  const auto content = ReadWholeFile(file, std::string().max_size());
+  const auto* written = std::get_if<std::string>(&content);
+  return written && Joined(LinesOf(*written)) == text;
+}
+
 }  // namespace corvane

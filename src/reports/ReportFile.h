@@ -32,6 +32,9 @@ struct WrittenReport {
 /// What is said when a report or a copy of it could not be written.
 Refusal ReportNotWritten(const FileError& error);
 
+/// Whether the file holds the report of this text, as WriteReport has written it.
+bool HoldsReport(const std::filesystem::path& file, const std::string& text);
+
 /// Fills the template file and writes the report, lines ending in CR LF, in place of the previous
 /// one, which stays when the template is no text with a data row. An output without a folder is
 /// refused: it would land wherever the program was started.

@@ -82,7 +82,7 @@ bool Sync([[maybe_unused]] std::FILE* stream) {
 
 }  // namespace
 
-std::variant<std::string, FileError> ReadWholeFile(const path& file) {
+std::variant<std::string, FileError> ReadWholeFile(const path& file, std::size_t largest) {
   // A pipe would keep the program waiting.
   if (std::string reason = WhyNoFile(file); !reason.empty()) return FileError{file, reason};
   errno = 0;
@@ -92,6 +92,9 @@ std::variant<std::string, FileError> ReadWholeFile(const path& file) {
   char block[16384];
   while (in.read(block, sizeof block) || in.gcount() > 0) {
     content.append(block, static_cast<std::size_t>(in.gcount()));
+    if (content.size() > largest) {
+      return FileError{file, "The file is larger than " + std::to_string(largest >> 20) + " MiB"};
+    }
   }
   if (in.bad()) return FileError{file, LastReason()};
   return content;

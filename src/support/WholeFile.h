@@ -16,8 +16,14 @@ struct FileError {
   std::string reason;
 };
 
-/// The bytes of a file; folders, pipes and devices are none.
-std::variant<std::string, FileError> ReadWholeFile(const std::filesystem::path& file);
+/// Far more than any file that the program reads as a whole has for a reason, and little enough to
+/// be read at once: 4 MiB, in bytes.
+inline constexpr std::size_t kLargestFile = std::size_t{4} << 20;
+
+/// The bytes of a file; folders, pipes and devices are none, and a file of more than so many bytes
+/// is refused without being read to its end.
+std::variant<std::string, FileError> ReadWholeFile(const std::filesystem::path& file,
+                                                   std::size_t largest = kLargestFile);
 
 /// Writes a file as a whole: first a new one beside it, which is on the disk before it takes the
 /// old one's place, so that a failure leaves what was there before. A link is followed, the mode of

@@ -39,7 +39,10 @@ TEST_F(ReportFile, TheLastMessageNamesThePathAndTheReasonOfAFailure) {
   const auto nowhere = folder_.Path() / "nowhere" / "report.html";
   const auto rowless = folder_.Path() / "rowless.txt";
   const auto binary = folder_.Path() / "binary.txt";
+  const auto huge = folder_.Path() / "huge.txt";
   WriteWholeFile(rowless, "^tag^");
+  WriteWholeFile(huge, "^datarow^\n");
+  std::filesystem::resize_file(huge, kLargestFile + 1);
   WriteWholeFile(binary, std::string("^datarow^\0", 10));
   const struct {
     std::filesystem::path source, target, named;
@@ -50,6 +53,7 @@ TEST_F(ReportFile, TheLastMessageNamesThePathAndTheReasonOfAFailure) {
       {folder_.Path(), output_, folder_.Path(), "Is a directory"},
       {rowless, output_, rowless, "The template holds no data row"},
       {binary, output_, binary, "The template is no text file"},
+      {huge, output_, huge, "The file is larger than 4 MiB"},
       {template_, "report.html", "report.html", "There is no documents folder"},
   };
   for (const auto& [source, target, named, reason] : cases) {

@@ -58,6 +58,16 @@ TEST_F(WholeFile, TheNewFileTakesThePlaceTheModeAndTheLinkOfTheOld) {
   EXPECT_EQ(std::get<std::string>(ReadWholeFile(file_)), "new");
 }
 
+TEST_F(WholeFile, NothingIsLeftBesideAFileThatCannotTakeItsPlace) {
+  const auto late = folder_.Path() / "late";
+  PiecewiseFile whole(late);
+  whole.Write("new");
+  std::filesystem::create_directory(late);
+  const auto error = whole.Finish();
+  EXPECT_TRUE(std::filesystem::remove(late)) << "the folder that came in between";
+  ExpectRefused(error, late);
+}
+
 #if __has_include(<sys/resource.h>)
 TEST_F(WholeFile, AWriteThatBreaksOffLeavesThePreviousFile) {
   rlimit previous{};

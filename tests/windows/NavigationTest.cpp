@@ -1,3 +1,6 @@
+#include <csignal>
+
+#include "platform/EndRequests.h"
 #include "platform/MessageBox.h"
 #include "platform/ProgramFolder.h"
 #include "support/Paths.h"
@@ -134,6 +137,32 @@ TEST_F(Navigation, ExitOfTheDisclaimerEndsTheProcessWhateverElseIsOpen) {
   watchdog.start(5000);
   EXPECT_EQ(QApplication::exec(), 0) << "the process goes on";
   EXPECT_EQ(session.header.institution, "First Bank") << "no window was closed as by its frame";
+}
+
+TEST_F(Navigation, SignalsAndTheEndOfTheSessionEndTheProcessFromAModalWindowToo) {
+  const EndRequests requests;
+  QObject::connect(&requests, &EndRequests::Requested, [this] { windows.EndProcess(); });
+  QTimer watchdog;
+  QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+  watchdog.start(5000);
+  const auto sessionEnds = [] {
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+  };
+  for (const std::function<void()>& ask : {std::function<void()>([] { std::raise(SIGTERM); }),
+                                           {[] { std::raise(SIGHUP); }},
+                                           {[] { std::raise(SIGINT); }},
+                                           {sessionEnds}}) {
+    Open<MainMenu>();
+    session.header.institution = "First Bank";
+    QTimer::singleShot(0, [this, &ask] {
+      WhenShown<AboutWindow>(ask);
+      Menu("mnuAbout");
+    });
+    EXPECT_EQ(QApplication::exec(), 0) << "the process goes on";
+    EXPECT_TRUE(IsVisible<AboutWindow>()) << "no window was closed as by its frame";
+    windows.Discard<AboutWindow>();
+  }
 }
 
 TEST_F(Navigation, TheProgramEndsUnderAWindowThatWaitsForAnother) {

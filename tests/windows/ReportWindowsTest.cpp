@@ -48,6 +48,17 @@ bool IsReadable(const QAccessibleInterface* part, const QString& text) {
   return false;
 }
 
+TEST_F(ReportWindows, AReportThatAnotherProgramReplacedIsBuiltAgain) {
+  Compute();
+  QSignalSpy shown(Get<WebView>("WebView"), &WebView::Shown);
+  const auto file = session.dataFolder / "Disclosed_APY_Summary.html";
+  const auto written = ReadWholeFile(file);
+  EXPECT_FALSE(WriteWholeFile(file, "the report of another account"));
+  ASSERT_TRUE(shown.wait(20000));
+  ASSERT_TRUE(shown.wait(20000)) << "shown as it was found";
+  EXPECT_EQ(std::get<std::string>(ReadWholeFile(file)), std::get<std::string>(written));
+}
+
 TEST_F(ReportWindows, TheBrowserShowsTheReportForEyesEarsAndKeys) {
   Compute();
   auto* view = Get<WebView>("WebView");

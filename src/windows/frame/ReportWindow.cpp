@@ -23,6 +23,9 @@ constexpr int kZoomStep = 10;
 constexpr int kLeastZoom = 50;
 constexpr int kMostZoom = 300;
 
+/// Two programs that show reports at once may cross each other a few times.
+constexpr int kMostBuilds = 5;
+
 QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -41,6 +44,8 @@ void ReportWindow::PlaceView(QWidget* frame, const QString& viewName) {
   view_->setObjectName(viewName);
   view_->setAccessibleName("Report");
   frame->layout()->addWidget(view_);
+  // The browser is still inside what it tells of.
+  connect(view_, &WebView::Shown, this, &ReportWindow::CheckShown, Qt::QueuedConnection);
   auto* print = findChild<QPushButton*>("cmdPrint");
   OnClick(print, [this] { Print(); });
   OnMenu(findChild<QAction*>("mnuPrint"), [print] { print->click(); });
@@ -83,21 +88,42 @@ void ReportWindow::Zoom(int percent) {
   view_->SetZoom(zoom);
 }
 
+std::filesystem::path ReportWindow::OutputFile() {
+  return session().dataFolder / names_.outputName;
+}
+
 void ReportWindow::FocusReport() {
   if (text_) FocusField(view_);
 }
 
 void ReportWindow::BuildReport() {
+  timesBuilt_ = 0;
+  BuildAndShow();
+}
+
+WrittenReport ReportWindow::Written() {
   // The folder may have gone, or become possible, since the program started.
-  session().dataFolder = MakeDataFolder(DocumentsFolder());
-  const std::filesystem::path output = session().dataFolder / names_.outputName;
-  WrittenReport report = WriteReport(ProgramFolder() / names_.templateName, output, Content());
+  const DataFolder folder = MakeDataFolder(DocumentsFolder());
+  session().dataFolder = folder.path;
+  if (!folder.reason.empty()) return {{}, {ReportNotWritten({OutputFile(), folder.reason})}};
+  return WriteReport(ProgramFolder() / names_.templateName, OutputFile(), Content());
+}
+
+void ReportWindow::BuildAndShow() {
+  ++timesBuilt_;
+  WrittenReport report = Written();
   if (!report.text) view_->ShowNotice("No report was built.");
   for (const Refusal& message : report.messages) Tell(message);
   text_ = std::move(report.text);
   labels_ = {windowTitle(), QString::fromStdString(session().header.institution),
              QString::fromStdString(FormatDate(Today()))};
-  if (text_) view_->ShowFile(Text(output));
+  if (text_) view_->ShowFile(Text(OutputFile()));
+}
+
+void ReportWindow::CheckShown(bool success) {
+  if (!success || !text_ || !isVisible() || HoldsReport(OutputFile(), *text_)) return;
+  if (timesBuilt_ < kMostBuilds) return BuildAndShow();
+  view_->ShowNotice("Another program keeps changing the report: " + Text(OutputFile()));
 }
 
 void ReportWindow::Print() {

@@ -27,6 +27,12 @@ class ReportWindow : public Form {
   void FocusReport();
 
  private:
+  std::filesystem::path OutputFile();
+  WrittenReport Written();
+  void BuildAndShow();
+  /// A page is on the screen: it is built again where another program has put its own report under
+  /// the same name before the browser read it.
+  void CheckShown(bool success);
   void BindKeys();
   void AddViewMenu();
   void Zoom(int percent);
@@ -37,7 +43,8 @@ class ReportWindow : public Form {
   ReportNames names_;
   WebView* view_ = nullptr;
   std::optional<std::string> text_;  ///< the report as it was built
-  PrintedLabels labels_;             ///< of the report when it is printed
+  int timesBuilt_ = 0;
+  PrintedLabels labels_;  ///< of the report when it is printed
 };
 
 }  // namespace corvane

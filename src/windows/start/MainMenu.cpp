@@ -20,7 +20,7 @@ constexpr const char* kStartupKey = "Startup Intro";
 
 MainMenu::MainMenu(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::MainMenu>()) {
-  session().dataFolder = MakeDataFolder(DocumentsFolder());
+  session().dataFolder = MakeDataFolder(DocumentsFolder()).path;
   ui_->setupUi(this);
   shape1_ = new QFrame(ui_->centralWidget);
   shape1_->setObjectName("Shape1");

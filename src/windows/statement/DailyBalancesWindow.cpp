@@ -8,6 +8,7 @@
 #include "statement/DayNotice.h"
 #include "statement/DayTable.h"
 #include "statement/StatementContext.h"
+#include "support/Paths.h"
 #include "support/ProgramTitle.h"
 #include "support/WholeFile.h"
 #include "ui_DailyBalancesWindow.h"
@@ -118,9 +119,10 @@ void DailyBalancesWindow::mnuUndo_Click() {
 void DailyBalancesWindow::mnuLoad_Click() {
   const auto path = AskOpenPath(this, "Load Days from File", "Tables (*.csv *.txt);;All files (*)");
   if (!path) return;
-  const auto text = ReadWholeFile(path->toStdString());
+  const auto text = ReadWholeFile(PathOf(path->toStdString()));
   if (const auto* error = std::get_if<FileError>(&text)) {
-    return Tell({"The file cannot be read: " + error->reason, FieldAt(grid_->Place())});
+    return Tell({"The file cannot be read: " + PathText(error->path) + "\n" + error->reason,
+                 FieldAt(grid_->Place())});
   }
   Fill(LoadDays(grid_->Days(), std::get<std::string>(text)));
 }
