@@ -1,6 +1,7 @@
 #include "windows/frame/Routes.h"
 
 #include "disclosure/EntrySequence.h"
+#include "platform/BrowserLoader.h"
 #include "platform/ProgramFolder.h"
 #include "windows/disclosure/DisclosureEntryWindow.h"
 #include "windows/disclosure/DisclosureResultsWindow.h"
@@ -58,6 +59,7 @@ void Routes::StartDisclosure() {
   session().workflow = Workflow::Disclosure;
   session().disclosure = {};
   Go<DisclosureSetupWindow>();
+  WarmBrowser();
 }
 
 void Routes::StartStatement() {
@@ -65,6 +67,7 @@ void Routes::StartStatement() {
   session().statement = {};
   session().statement.setup = StatementSetupAtStart();
   Go<StatementSetupWindow>();
+  WarmBrowser();
 }
 
 void Routes::GoToMainMenu() {
