@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <csignal>
+#include <map>
 
 #include "platform/HelpView.h"
 #include "platform/WebView.h"
@@ -26,20 +28,22 @@ qint64 ParentOf(const QString& process) {
   return stat.mid(stat.lastIndexOf(')')).split(' ').value(2).toLongLong();
 }
 
-bool IsOurs(QString process) {
-  while (process.toLongLong() > 1) {
-    process = QString::number(ParentOf(process));
-    if (process.toLongLong() == QCoreApplication::applicationPid()) return true;
-  }
-  return false;
-}
-
-/// Kills the processes that draw the engine's pages; how many there were.
+/// Kills the processes that draw the engine's pages; how many there were. The engine starts one
+/// process, or with its sandbox two in a row, that make these.
 int KillHelpers() {
-  int killed = 0;
+  std::map<qint64, qint64> parents;
   for (const QString& process : QDir("/proc").entryList(QDir::Dirs)) {
-    const bool draws = Content("/proc/" + process + "/cmdline").contains("--type=renderer");
-    if (draws && IsOurs(process)) killed += kill(process.toInt(), SIGKILL) == 0;
+    const bool isEngine = Content("/proc/" + process + "/cmdline").contains("QtWebEngineProcess");
+    if (isEngine) parents[process.toLongLong()] = ParentOf(process);
+  }
+  int killed = 0;
+  for (const auto& [process, parent] : parents) {
+    qint64 above = parent;
+    while (parents.contains(above)) above = parents[above];
+    const bool isMaker = std::ranges::any_of(
+        parents, [one = process](const auto& other) { return other.second == one; });
+    const bool isOurs = above == QCoreApplication::applicationPid();
+    if (isOurs && above != parent && !isMaker) killed += kill(pid_t(process), SIGKILL) == 0;
   }
   return killed;
 }
