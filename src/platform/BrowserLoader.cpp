@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <QApplication>
@@ -98,7 +99,7 @@ void BrowserLoader::Loaded() {
   if (!shared_->isValid()) shared_->create();
   const auto make = reinterpret_cast<MakeBrowser>(module_.resolve(kMakeBrowser));
   if (make) browser_.reset(make());
-  reason_ = module_.errorString();
+  reason_ = "The browser could not be loaded.\n" + module_.errorString();
   isLoaded_ = true;
   for (const Waiting& one : std::exchange(waiting_, {})) {
     if (one.context) one.use(browser_.get(), reason_);
