@@ -7,7 +7,7 @@
 #include <chrono>
 #include <cstdio>
 
-#include "platform/HelpView.h"
+#include "platform/BrowserLoader.h"
 #include "platform/Pictures.h"
 #include "platform/ProgramFolder.h"
 #include "platform/WebView.h"
@@ -58,8 +58,7 @@ class FirstPaint : public QObject {
 };
 
 int ShowFirstWindow(int argc, char** argv) {
-  PrepareWebView();
-  PrepareHelpView();
+  PrepareBrowser();
   QApplication application(argc, argv);
   QApplication::setWindowIcon(ProgramIcon());
   FirstPaint watch;
@@ -109,7 +108,7 @@ void TimeCalculate(WindowRegistry& windows) {
 }
 
 int Calculate(int argc, char** argv) {
-  PrepareWebView();
+  PrepareBrowser();
   QApplication application(argc, argv);
   Session session;
   WindowRegistry windows(session);
@@ -124,7 +123,7 @@ QUrl LastReport() {
 }
 
 int ShowBareWebView(int argc, char** argv) {
-  PrepareWebView();
+  PrepareBrowser();
   QApplication application(argc, argv);
   std::unique_ptr<QWebEngineView> view;
   QTimer::singleShot(kRestMilliseconds, [&view] {

@@ -5,9 +5,10 @@ import re
 import sys
 
 ORDER = ["support", "formulas", "account", "disclosure", "statement", "reports", "portfolio",
-         "check", "platform", "windows"]
+         "check", "platform", "windows", "browser"]
 # Beside its own folder each folder may include these only; a folder not named here, all before it.
-ONLY = {"statement": ORDER[:3], "platform": ["support"]}
+ONLY = {"statement": ORDER[:3], "platform": ["support"],
+        "browser": ["support", "platform"]}
 
 
 def allowed(file, header):

@@ -25,7 +25,8 @@ share="$place/corvane/share"
 dpkg-deb --contents "$work"/package/*.deb >"$work/contents"
 version=$(sed -n 's/^project(corvane VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 
-for file in LICENSE THIRD-PARTY.txt README.txt CorvaneWin.chm Disclosed_Report_template.txt \
+for file in corvane-browser.so LICENSE THIRD-PARTY.txt README.txt CorvaneWin.chm \
+  Disclosed_Report_template.txt \
   Interest_Report_template.txt Periodic_Statement_Report_template.txt \
   Portfolio_Report_template.txt; do
   [ -s "$place/corvane/$file" ] || fail "The archive lacks $file."
@@ -41,6 +42,7 @@ for name in corvane corvane-check; do
   grep -q " ./usr/bin/$name -> ../lib/corvane/$name$" "$work/contents" || fail "/usr/bin lacks $name."
 done
 # A library that came in newly wants its licence told, and maybe its package in README.txt.
+objdump -p "$program" | grep -q WebEngine && fail "The program links the browser engine itself."
 libraries=$(dpkg-deb --field "$work"/package/*.deb Depends | sed 's/([^)]*)//g; s/,/ /g')
 case "$libraries" in
   *libqt6webenginewidgets6*) ;;

@@ -3,10 +3,9 @@
 #include <QApplication>
 
 #include "platform/Arguments.h"
+#include "platform/BrowserLoader.h"
 #include "platform/EndRequests.h"
-#include "platform/HelpView.h"
 #include "platform/Pictures.h"
-#include "platform/WebView.h"
 #include "support/ProgramVersion.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -16,8 +15,7 @@ int main(int argc, char** argv) {
     std::cout << *answer;
     return 0;
   }
-  corvane::PrepareWebView();
-  corvane::PrepareHelpView();
+  corvane::PrepareBrowser();
   QApplication application(argc, argv);
   QApplication::setApplicationName("corvane");
   QApplication::setApplicationVersion(corvane::kProgramVersion);

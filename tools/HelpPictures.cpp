@@ -3,7 +3,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include "platform/HelpView.h"
+#include "platform/BrowserLoader.h"
 #include "platform/Pictures.h"
 #include "platform/WebView.h"
 #include "support/Clock.h"
@@ -327,8 +327,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const bool everyWindow = argc > 4;
   if (everyWindow && !corvane::MakeScreen(home.path())) return 1;
-  corvane::PrepareWebView();
-  corvane::PrepareHelpView();
+  corvane::PrepareBrowser();
   QApplication application(argc, argv);
   QApplication::setCursorFlashTime(0);  // the same picture at any time
   if (everyWindow) {

@@ -2,181 +2,78 @@
 
 #include <utility>
 
-#include <QBuffer>
-#include <QGuiApplication>
-#include <QPalette>
+#include <QLabel>
 #include <QVBoxLayout>
-#include <QWebEngineHistory>
-#include <QWebEnginePage>
-#include <QWebEngineProfile>
-#include <QWebEngineSettings>
-#include <QWebEngineUrlRequestInterceptor>
-#include <QWebEngineUrlRequestJob>
-#include <QWebEngineUrlScheme>
-#include <QWebEngineUrlSchemeHandler>
-#include <QWebEngineView>
 
+#include "platform/Browser.h"
+#include "platform/BrowserLoader.h"
 #include "platform/HelpBook.h"
 
 namespace corvane {
 
-namespace {
-
-/// Topics have addresses such as "corvane-help://book/main-menu.htm", against which the browser
-/// resolves the links and pictures of a page.
-constexpr const char* kScheme = "corvane-help";
-
-QUrl UrlOf(const QString& topic) {
-  return QUrl(QString("%1://book/%2").arg(kScheme, topic));
-}
-
-QString TopicOf(const QUrl& url) {
-  return url.path().mid(1);
-}
-
-QByteArray TypeOf(const QString& name) {
-  if (name.endsWith(".png")) return "image/png";
-  return name.endsWith(".css") ? "text/css" : "text/html";
-}
-
-/// The colours behind text as the desktop has them.
-QColor Paper() {
-  return QGuiApplication::palette().color(QPalette::Base);
-}
-
-/// The style sheet has its dark colours under a condition, but the browser does not know that the
-/// desktop is dark.
-QByteArray InTheColoursOfTheDesktop(QByteArray css) {
-  if (Paper().lightness() > 127) return css;
-  return css.replace("(prefers-color-scheme: dark)", "all")
-      .replace("color-scheme: light dark", "color-scheme: dark");
-}
-
-class OnlyTheBook : public QWebEngineUrlRequestInterceptor {
- public:
-  void interceptRequest(QWebEngineUrlRequestInfo& request) override {
-    request.block(request.requestUrl().scheme() != kScheme);
-  }
-};
-
-class BookHandler : public QWebEngineUrlSchemeHandler {
- public:
-  explicit BookHandler(const HelpBook& book) : book_(book) {}
-
-  void requestStarted(QWebEngineUrlRequestJob* job) override {
-    const QString name = TopicOf(job->requestUrl());
-    const QByteArray* bytes = book_.File(name);
-    if (!bytes) return job->fail(QWebEngineUrlRequestJob::UrlNotFound);
-    const QByteArray type = TypeOf(name);
-    auto* answer = new QBuffer(job);
-    answer->setData(type == "text/css" ? InTheColoursOfTheDesktop(*bytes) : *bytes);
-    job->reply(type, answer);
-  }
-
- private:
-  const HelpBook& book_;
-};
-
-class TopicPage : public QWebEnginePage {
- public:
-  TopicPage(QWebEngineProfile& profile, const HelpBook& book)
-      : QWebEnginePage(&profile), book_(book) {}
-
- protected:
-  bool acceptNavigationRequest(const QUrl& url, NavigationType, bool) override {
-    return url.scheme() == kScheme && book_.File(TopicOf(url));
-  }
-
- private:
-  const HelpBook& book_;
-};
-
-void SwitchOff(QWebEngineSettings& settings) {
-  for (const auto feature :
-       {QWebEngineSettings::JavascriptEnabled, QWebEngineSettings::PluginsEnabled,
-        QWebEngineSettings::LocalStorageEnabled, QWebEngineSettings::AutoLoadIconsForPage,
-        QWebEngineSettings::HyperlinkAuditingEnabled, QWebEngineSettings::PdfViewerEnabled}) {
-    settings.setAttribute(feature, false);
-  }
-}
-
-}  // namespace
-
-// Destroyed in the opposite order: a page must not outlive its profile.
-struct HelpView::Browser {
-  explicit Browser(const HelpBook& book) : handler(book), page(profile, book) {
-    profile.setUrlRequestInterceptor(&guard);
-    profile.installUrlSchemeHandler(kScheme, &handler);
-    SwitchOff(*page.settings());
-    page.setBackgroundColor(Paper());
-    view.setPage(&page);
-    view.setContextMenuPolicy(Qt::NoContextMenu);
-  }
-
-  OnlyTheBook guard;
-  BookHandler handler;
-  QWebEngineProfile profile;
-  TopicPage page;
-  QWebEngineView view;
-};
-
-HelpView::HelpView(QWidget* parent) : QWidget(parent) {
+HelpView::HelpView(QWidget* parent) : QWidget(parent), notice_(new QLabel(this)) {
   auto* frame = new QVBoxLayout(this);
   frame->setContentsMargins(0, 0, 0, 0);
+  notice_->setObjectName("lblNotice");
+  notice_->setAlignment(Qt::AlignCenter);
+  notice_->setTextFormat(Qt::PlainText);
+  notice_->setWordWrap(true);
+  notice_->hide();
+  frame->addWidget(notice_);
 }
 
 HelpView::~HelpView() = default;
 
 void HelpView::Read(const HelpBook& book) {
-  browser_ = std::make_unique<Browser>(book);
-  layout()->addWidget(&browser_->view);
-  setFocusProxy(&browser_->view);
-  connect(&browser_->page, &QWebEnginePage::loadFinished, this, &HelpView::Loaded);
-  // From place to place in a topic nothing is loaded.
-  connect(&browser_->page, &QWebEnginePage::urlChanged, this,
-          [this](const QUrl& url) { emit Shown(TopicOf(url)); });
-  connect(&browser_->page, &QWebEnginePage::renderProcessTerminated, this, &HelpView::LoadAgain,
-          Qt::QueuedConnection);
+  WithBrowser(this, [this, &book](Browser* browser, const QString& reason) {
+    ReadIn(browser, reason, book);
+  });
+}
+
+void HelpView::ReadIn(Browser* browser, const QString& reason, const HelpBook& book) {
+  if (!browser) return ShowPage(reason + "\n\nThe help cannot be shown.");
+  pane_ = browser->MakeTopicPane({.file = [&book](const QString& name) { return book.File(name); },
+                                  .shown = [this](const QString& topic) { emit Shown(topic); },
+                                  .lost = [this] { LoadAgain(); }});
+  layout()->addWidget(&pane_->View());
+  setFocusProxy(&pane_->View());
+  if (!topic_.isEmpty()) ShowTopic(topic_, marked_);
+}
+
+void HelpView::ShowPage(const QString& insteadOfIt) {
+  notice_->setText(insteadOfIt);
+  notice_->setVisible(!insteadOfIt.isEmpty());
+  if (pane_) pane_->View().setVisible(insteadOfIt.isEmpty());
 }
 
 void HelpView::ShowTopic(const QString& topic, const QString& marked) {
+  topic_ = topic;
   marked_ = marked;
+  if (!pane_) return;
   loadedAgain_ = false;
-  const bool isThere = browser_->page.renderProcessPid() != 0;
-  if (isThere && browser_->page.url() == UrlOf(topic)) return Loaded();
-  browser_->page.load(UrlOf(topic));
+  ShowPage();
+  pane_->Open(topic, marked);
 }
 
 void HelpView::LoadAgain() {
-  if (!std::exchange(loadedAgain_, true)) browser_->page.triggerAction(QWebEnginePage::Reload);
-}
-
-void HelpView::Loaded() {
-  // Once: finding also goes to what is found, where a link may lead to another place.
-  browser_->page.findText(std::exchange(marked_, {}));
-  emit Shown(TopicOf(browser_->page.url()));
+  if (!std::exchange(loadedAgain_, true)) return pane_->Reload();
+  ShowPage("The topic cannot be shown. Choose it once more.");
 }
 
 void HelpView::GoBack() {
-  browser_->page.history()->back();
+  if (pane_) pane_->GoBack();
 }
 
 void HelpView::GoForward() {
-  browser_->page.history()->forward();
+  if (pane_) pane_->GoForward();
 }
 
 bool HelpView::CanGoBack() const {
-  return browser_->page.history()->canGoBack();
+  return pane_ && pane_->CanGoBack();
 }
 
 bool HelpView::CanGoForward() const {
-  return browser_->page.history()->canGoForward();
-}
-
-void PrepareHelpView() {
-  QWebEngineUrlScheme scheme(kScheme);
-  scheme.setSyntax(QWebEngineUrlScheme::Syntax::Host);
-  QWebEngineUrlScheme::registerScheme(scheme);
+  return pane_ && pane_->CanGoForward();
 }
 
 }  // namespace corvane

@@ -4,13 +4,17 @@
 
 #include <QWidget>
 
+class QLabel;
+
 namespace corvane {
 
+class Browser;
 class HelpBook;
+class TopicPane;
 
 /// Shows the topics of a help book and nothing else: pages, pictures and style come from the book,
 /// links lead from topic to topic, every other address is refused, scripts and plug-ins are off and
-/// nothing is stored.
+/// nothing is stored. A notice says where a topic cannot be shown.
 class HelpView : public QWidget {
   Q_OBJECT
 
@@ -34,19 +38,17 @@ class HelpView : public QWidget {
   void Shown(const QString& topic);
 
  private:
-  struct Browser;
-
-  void Loaded();
+  void ReadIn(Browser* browser, const QString& reason, const HelpBook& book);
+  /// Shows the page of the topic, unless a text is given that stands in place of it.
+  void ShowPage(const QString& insteadOfIt = {});
   /// The browser's helper process has ended: once, the topic is loaded anew.
   void LoadAgain();
 
-  std::unique_ptr<Browser> browser_;
+  QLabel* notice_;
+  std::unique_ptr<TopicPane> pane_;  ///< null until the browser is loaded
+  QString topic_;
   QString marked_;
   bool loadedAgain_ = false;
 };
-
-/// Makes the address of topics known to the browser; to be called before the application object is
-/// made.
-void PrepareHelpView();
 
 }  // namespace corvane

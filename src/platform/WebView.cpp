@@ -2,125 +2,12 @@
 
 #include <utility>
 
-#include <QDialog>
 #include <QLabel>
-#include <QPointer>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QTimer>
 #include <QVBoxLayout>
-#include <QWebEnginePage>
-#include <QWebEngineProfile>
-#include <QWebEngineSettings>
-#include <QWebEngineUrlRequestInterceptor>
-#include <QWebEngineView>
 
-#include "support/ProgramTitle.h"
-
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
+#include "platform/BrowserLoader.h"
 
 namespace corvane {
-
-namespace {
-
-/// Lets the report file through and blocks every other request, also those of the page itself.
-class OnlyThisFile : public QWebEngineUrlRequestInterceptor {
- public:
-  using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
-
-  void Allow(const QUrl& url) { allowed_ = url; }
-  bool Allows(const QUrl& url) const { return url.matches(allowed_, QUrl::RemoveFragment); }
-
-  void interceptRequest(QWebEngineUrlRequestInfo& request) override {
-    request.block(!Allows(request.requestUrl()));
-  }
-
- private:
-  QUrl allowed_;
-};
-
-class ReportPage : public QWebEnginePage {
- public:
-  ReportPage(QWebEngineProfile* profile, OnlyThisFile* guard)
-      : QWebEnginePage(profile, nullptr), guard_(guard) {}
-
-  void Open(const QUrl& url) {
-    guard_->Allow(url);
-    load(url);
-  }
-
- protected:
-  bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool) override {
-    return type != NavigationTypeLinkClicked && guard_->Allows(url);
-  }
-
- private:
-  OnlyThisFile* guard_;
-};
-
-void SwitchOff(QWebEngineSettings& settings) {
-  for (const auto feature :
-       {QWebEngineSettings::JavascriptEnabled, QWebEngineSettings::PluginsEnabled,
-        QWebEngineSettings::LocalStorageEnabled, QWebEngineSettings::AutoLoadIconsForPage,
-        QWebEngineSettings::LocalContentCanAccessRemoteUrls,
-        QWebEngineSettings::LocalContentCanAccessFileUrls,
-        QWebEngineSettings::HyperlinkAuditingEnabled, QWebEngineSettings::PdfViewerEnabled}) {
-    settings.setAttribute(feature, false);
-  }
-}
-
-/// Shows that a page prints. It takes the input of all windows and stays until the print ends.
-class PrintingBox : public QDialog {
- public:
-  explicit PrintingBox(QWidget* parent)
-      : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
-    setWindowTitle(kProgramTitle);
-    setObjectName("PrintingBox");
-    (new QVBoxLayout(this))->addWidget(new QLabel("The report is being printed."));
-  }
-
-  void reject() override {}
-};
-
-/// Asks where and how to print.
-bool Accepts(QPrinter& printer, QWidget* parent) {
-  return QPrintDialog(&printer, parent).exec() == QDialog::Accepted;
-}
-
-}  // namespace
-
-// Destroyed in the opposite order: a page must not outlive its profile, nor a profile its guard.
-struct WebView::Browser {
-  Browser() {
-    profile.setUrlRequestInterceptor(&guard);
-    SwitchOff(*page.settings());
-    view.setPage(&page);
-    view.setContextMenuPolicy(Qt::NoContextMenu);
-  }
-
-  /// Starts to print, which ends the wait in the box. An engine whose helper is gone ends it too.
-  void Print(QPrinter& printer, const PrintedLabels& labels, QDialog& box) {
-    if (page.renderProcessPid() == 0) return box.done(QDialog::Rejected);
-    connect(&page, &QWebEnginePage::renderProcessTerminated, &box,
-            [&box] { box.done(QDialog::Rejected); });
-    // Without the box the printer is gone too.
-    const auto deliver = [&printer, labels,
-                          waiting = QPointer<QDialog>(&box)](const QByteArray& pdf) {
-      if (!waiting) return;
-      const QByteArray pages = WithLabels(pdf, printer.pageLayout(), labels);
-      const bool success = !pages.isEmpty() && PrintPages(pages, printer);
-      waiting->done(success ? QDialog::Accepted : QDialog::Rejected);
-    };
-    page.printToPdf(deliver, printer.pageLayout());
-  }
-
-  OnlyThisFile guard;
-  QWebEngineProfile profile;
-  ReportPage page{&profile, &guard};
-  QWebEngineView view;
-};
 
 WebView::WebView(QWidget* parent) : QWidget(parent), notice_(new QLabel(this)) {
   auto* frame = new QVBoxLayout(this);
@@ -142,69 +29,56 @@ void WebView::ShowFile(const QString& path) {
 
 void WebView::SetZoom(int percent) {
   zoom_ = percent;
-  if (browser_) browser_->page.setZoomFactor(percent / 100.0);
+  if (pane_) pane_->SetZoom(percent);
 }
 
 void WebView::ShowNotice(const QString& text) {
-  DropBrowser();
+  DropPane();
   notice_->setText(text);
   notice_->show();
 }
 
 void WebView::Load() {
-  DropBrowser();
+  DropPane();
   notice_->hide();
-  browser_ = std::make_shared<Browser>();
-  layout()->addWidget(&browser_->view);
-  setFocusProxy(&browser_->view);
-  SetZoom(zoom_);
-  connect(&browser_->page, &QWebEnginePage::loadFinished, this, &WebView::Loaded);
-  connect(&browser_->page, &QWebEnginePage::renderProcessTerminated, this,
-          [this] { Loaded(false); });
-  browser_->page.Open(QUrl::fromLocalFile(path_));
+  waiting_ = std::make_unique<QObject>();
+  WithBrowser(waiting_.get(),
+              [this](Browser* browser, const QString& reason) { LoadIn(browser, reason); });
 }
 
-void WebView::DropBrowser() {
+void WebView::LoadIn(Browser* browser, const QString& reason) {
+  if (!browser) return GiveUp(reason + "\n\n");
+  pane_ = browser->MakeReportPane();
+  layout()->addWidget(&pane_->View());
+  setFocusProxy(&pane_->View());
+  SetZoom(zoom_);
+  pane_->Open(path_, [this](bool success) { Loaded(success); });
+}
+
+void WebView::DropPane() {
+  waiting_.reset();
   // It may live on until its print has ended.
-  if (browser_) browser_->view.hide();
-  browser_.reset();
+  if (pane_) pane_->View().hide();
+  pane_.reset();
 }
 
 void WebView::Loaded(bool success) {
-  if (success) {
-    SetZoom(zoom_);
-    emit Shown(true);
-    return;
-  }
-  // One failure is told in more than one way, and the page is still inside the one that came first.
-  browser_->page.disconnect(this);
-  QTimer::singleShot(0, &browser_->page, [this] { LoadAgain(); });
+  if (!success && !std::exchange(loadedAgain_, true)) return Load();
+  if (!success) return GiveUp("");
+  SetZoom(zoom_);
+  emit Shown(true);
+  // The next report is to find a pane made ahead, too.
+  WarmBrowser();
 }
 
-void WebView::LoadAgain() {
-  if (!std::exchange(loadedAgain_, true)) return Load();
-  ShowNotice("The report cannot be shown. It stands in " + path_);
+void WebView::GiveUp(const QString& reason) {
+  ShowNotice(reason + "The report cannot be shown. It stands in " + path_);
   emit Shown(false);
 }
 
 PrintOutcome WebView::Print(const PrintedLabels& labels) {
-  const auto printing = browser_;
-  if (!printing) return PrintOutcome::Failed;
-  QPrinter printer(QPrinter::HighResolution);
-  PreparePages(printer);
-  printer.setDocName(labels.title);
-  if (!Accepts(printer, window())) return PrintOutcome::Cancelled;
-  PrintingBox box(window());
-  QTimer::singleShot(0, &box, [&] { printing->Print(printer, labels, box); });
-  return box.exec() == QDialog::Accepted ? PrintOutcome::Printed : PrintOutcome::Failed;
-}
-
-void PrepareWebView() {
-  // On Linux the engine tells screen readers what a page holds only where it is asked to.
-  qputenv("QTWEBENGINE_ENABLE_LINUX_ACCESSIBILITY", "1");
-#ifdef Q_OS_UNIX
-  if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-#endif
+  const auto printing = pane_;
+  return printing ? printing->Print(labels, window()) : PrintOutcome::Failed;
 }
 
 }  // namespace corvane

@@ -4,17 +4,15 @@
 
 #include <QWidget>
 
-#include "platform/PrintedPages.h"
+#include "platform/Browser.h"
 
 class QLabel;
 
 namespace corvane {
 
-enum class PrintOutcome { Printed, Cancelled, Failed };
-
 /// Shows one local report file and nothing else: scripts and plug-ins are off, nothing is stored,
-/// links do nothing, and no other file or remote address is loaded. The browser behind it is made
-/// for each file that is shown.
+/// links do nothing, and no other file or remote address is loaded. Each file that is shown gets a
+/// pane of its own.
 class WebView : public QWidget {
   Q_OBJECT
 
@@ -23,7 +21,8 @@ class WebView : public QWidget {
   ~WebView() override;
 
   /// Shows the file. One that does not load, or whose browser loses its helper process, is loaded
-  /// once more; then a notice says that it cannot be shown and where it stands.
+  /// once more; then a notice says that it cannot be shown and where it stands. So does a notice
+  /// where the browser is missing.
   void ShowFile(const QString& path);
 
   /// Shows the file and those that follow at a percentage of their size; they print at their own.
@@ -41,22 +40,18 @@ class WebView : public QWidget {
   void Shown(bool success);
 
  private:
-  struct Browser;
-
   void Load();
-  void DropBrowser();
+  void LoadIn(Browser* browser, const QString& reason);
+  void DropPane();
   void Loaded(bool success);
-  void LoadAgain();
+  void GiveUp(const QString& reason);
 
   QLabel* notice_;
-  std::shared_ptr<Browser> browser_;
+  std::unique_ptr<QObject> waiting_;  ///< for the browser; without it what comes is out of date
+  std::shared_ptr<ReportPane> pane_;
   QString path_;
   int zoom_ = 100;
   bool loadedAgain_ = false;
 };
-
-/// Prepares the process for the browser; to be called before the application object is made. The
-/// browser's engine refuses to start for the superuser unless its sandbox is off.
-void PrepareWebView();
 
 }  // namespace corvane

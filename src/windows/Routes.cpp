@@ -1,6 +1,7 @@
 #include "windows/frame/Routes.h"
 
 #include "disclosure/EntrySequence.h"
+#include "platform/BrowserLoader.h"
 #include "platform/ProgramFolder.h"
 #include "windows/disclosure/DisclosureEntryWindow.h"
 #include "windows/disclosure/DisclosureResultsWindow.h"
@@ -59,6 +60,7 @@ void Routes::StartDisclosure() {
   session().workflow = Workflow::Disclosure;
   session().disclosure = {};
   Go<DisclosureSetupWindow>();
+  WarmBrowser();
 }
 
 void Routes::StartStatement() {
@@ -66,6 +68,7 @@ void Routes::StartStatement() {
   session().statement = {};
   session().statement.setup = StatementSetupAtStart();
   Go<StatementSetupWindow>();
+  WarmBrowser();
 }
 
 void Routes::GoToMainMenu() {

@@ -1,4 +1,4 @@
-#include "platform/PrintedPages.h"
+#include "browser/PrintedPages.h"
 
 #include <QBuffer>
 #include <QPainter>

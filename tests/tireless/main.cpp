@@ -10,8 +10,7 @@
 
 #include "Run.h"
 #include "Shorten.h"
-#include "platform/HelpView.h"
-#include "platform/WebView.h"
+#include "platform/BrowserLoader.h"
 
 namespace {
 
@@ -21,8 +20,7 @@ int DoActsOf(const char* file, int argc, char** argv) {
   for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"}) {
     qputenv(name, home.path().toUtf8());
   }
-  corvane::PrepareWebView();
-  corvane::PrepareHelpView();
+  corvane::PrepareBrowser();
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   return corvane::Run(corvane::ReadActs(file));

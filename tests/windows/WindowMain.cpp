@@ -2,8 +2,7 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
-#include "platform/HelpView.h"
-#include "platform/WebView.h"
+#include "platform/BrowserLoader.h"
 
 /// Runs the window tests without a display, in a home folder of their own.
 int main(int argc, char** argv) {
@@ -12,8 +11,7 @@ int main(int argc, char** argv) {
   qputenv("HOME", home.path().toUtf8());
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
   qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
-  corvane::PrepareWebView();
-  corvane::PrepareHelpView();
+  corvane::PrepareBrowser();
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   ::testing::InitGoogleTest(&argc, argv);

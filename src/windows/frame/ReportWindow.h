@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PrintedPages.h"
+#include "platform/Browser.h"
 #include "reports/ReportFile.h"
 #include "windows/frame/Form.h"
 

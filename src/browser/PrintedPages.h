@@ -1,19 +1,11 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
+#include "platform/Browser.h"
 
 class QPageLayout;
 class QPrinter;
 
 namespace corvane {
-
-/// What a printed report says beyond its page.
-struct PrintedLabels {
-  QString title;        ///< of the document
-  QString institution;  ///< with date and page number at the foot of every page
-  QString date;
-};
 
 /// The paper of the locale (Letter in the United States, else A4) with margins of 15 mm.
 void PreparePages(QPrinter& printer);
