@@ -16,7 +16,6 @@
 #include "ui_DisclosureEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
 #include "windows/frame/ContextLine.h"
-#include "windows/frame/DateCount.h"
 #include "windows/frame/EntryList.h"
 #include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
@@ -40,10 +39,12 @@ DisclosureEntryWindow::DisclosureEntryWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::DisclosureEntryWindow>()) {
   ui_->setupUi(this);
   NameArrayElements();
-  dateCount_ = new DateCount(ui_->tStartDate);
+  // The place of the line is kept, so that nothing below it jumps.
+  ui_->lblDateCount->setMinimumHeight(fontMetrics().lineSpacing());
   binding_ = std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] {
     EnableCalendars();
-    dateCount_->Show(TermDatesText(session().disclosure.setup, entry_));
+    ui_->lblDateCount->setText(
+        QString::fromStdString(TermDatesText(session().disclosure.setup, entry_)));
     ShowTier();
   });
   BindFields();

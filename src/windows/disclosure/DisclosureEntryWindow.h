@@ -12,7 +12,6 @@ class DisclosureEntryWindow;
 
 namespace corvane {
 
-class DateCount;
 class ContextLine;
 class EntryList;
 
@@ -60,7 +59,6 @@ class DisclosureEntryWindow : public Form {
   EntryList* entries_ = nullptr;
   DisclosureEntry entry_;  ///< kept by the check when it is completed or left
   std::unique_ptr<FieldBinding<DisclosureEntry>> binding_;
-  DateCount* dateCount_ = nullptr;
   std::vector<QWidget*> termDates_;  ///< the two dates and their calendars
   bool termEdited_ = false;
 };

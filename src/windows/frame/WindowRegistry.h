@@ -54,6 +54,8 @@ class WindowRegistry {
     if (auto* form = Find<AForm>()) Close(*form);
   }
 
+  /// The main window that is shown; null before the first one.
+  const Form* MainWindow() const;
   /// Whether the form is shown and no modal window stands above it.
   bool IsInFront(const Form& form) const;
   /// Closes a window without ending the program; it takes no input any more.
@@ -79,8 +81,6 @@ class WindowRegistry {
 
   Form* FindForm(std::type_index type) const;
   void Add(std::type_index type, Form* form);
-  /// The main window that is shown; null before the first one.
-  const Form* MainWindow() const;
   /// Main windows follow each other as the pages of one window: same place, same size.
   void PlaceBeforeShowing(Form& form);
   void BringToFront(Form& form);

@@ -9,7 +9,6 @@
 #include "ui_StatementEntryWindow.h"
 #include "windows/frame/CalendarPopup.h"
 #include "windows/frame/ContextLine.h"
-#include "windows/frame/DateCount.h"
 #include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -26,7 +25,8 @@ StatementEntryWindow::StatementEntryWindow(WindowRegistry& registry)
   ui_->setupUi(this);
   binding_ = std::make_unique<FieldBinding<StatementEntry>>(
       *this, Entry(), [this] { ShowGroups(); }, [this] { FollowChanges(session().statement); });
-  dateCount_ = new DateCount(ui_->txtDateStart);
+  // The place of the line is kept, so that nothing below it jumps.
+  ui_->lblDateCount->setMinimumHeight(fontMetrics().lineSpacing());
   BindFields();
   BindButtons();
 }
@@ -92,7 +92,8 @@ void StatementEntryWindow::Form_Activate() {
 
 void StatementEntryWindow::ShowGroups() {
   const StatementEntry& entry = Entry();
-  dateCount_->Show(PeriodDatesText(session().statement.setup.year, entry));
+  ui_->lblDateCount->setText(
+      QString::fromStdString(PeriodDatesText(session().statement.setup.year, entry)));
   ui_->fraIntCalcMethod->setEnabled(!LocksMethod(session().statement.setup));
   ui_->Frame4->setEnabled(entry.basis != BalanceBasis::Equal);
   ui_->cmdComputeLADB->setEnabled(entry.txtADBLedgerBalance.enabled);

@@ -12,7 +12,6 @@ class StatementEntryWindow;
 
 namespace corvane {
 
-class DateCount;
 class ContextLine;
 
 /// The statement period: dates or days, rate, minimums, balances and the interest that the
@@ -44,7 +43,6 @@ class StatementEntryWindow : public Form {
   std::unique_ptr<Ui::StatementEntryWindow> ui_;
   ContextLine* account_ = nullptr;
   std::unique_ptr<FieldBinding<StatementEntry>> binding_;
-  DateCount* dateCount_ = nullptr;
 };
 
 }  // namespace corvane
