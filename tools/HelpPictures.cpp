@@ -14,8 +14,8 @@ namespace corvane {
 namespace {
 
 /// Until a window that was just shown, or its report, has come to rest.
-constexpr int kRestMilliseconds = 500;
-constexpr int kReportMilliseconds = 3000;
+constexpr int kRestMilliseconds = 250;
+constexpr int kReportMilliseconds = 2500;
 
 /// What is typed, "&c" for Alt+C, and the picture that is taken of the window in front then.
 struct Step {
@@ -56,6 +56,9 @@ const Steps kHelpTopics = {
     {"&s", "interest-report"},
 };
 
+/// The one picture of a message: any other has come unasked.
+constexpr const char* kMessage = "message";
+
 constexpr const char* kMostMoney = "9999999999999.99";
 
 /// A disclosure's setup from the main menu on, with the options that are named.
@@ -63,57 +66,50 @@ QString Setup(const QString& options) {
   return "[cmdAcctAdv] " + options + "[txtName]First Example Bank\tOne-year certificate\tA. Holder";
 }
 
-QString TenTiers() {
-  QString keys = "[cboTotalTiers]1";
-  for (int tier = 1; tier <= 10; ++tier) {
+/// The table of so many tiers, with the longest numbers.
+QString TierTable(int tiers) {
+  QString keys = QString("[cboTotalTiers]%1").arg(tiers);
+  for (int tier = 1; tier <= tiers; ++tier) {
     keys += QString("[txtInt(%1)]10.1234").arg(tier);
-    if (tier < 10) keys += QString("[txt_bne(%1)]%1").arg(tier) + "00000000000.99";
+    if (tier < tiers) keys += QString("[txt_bne(%1)]%1").arg(tier) + "00000000000.99";
   }
   return keys + "\t";
 }
 
-/// Ten tiers of one method, up to the results.
-Steps Tiers(const QString& option, const std::vector<const char*>& pictures, int entries) {
+/// A disclosure of one method: its table with all tiers, then three of them up to the results. The
+/// balance of an entry, by its number.
+Steps Tiers(const QString& option, const QStringList& balances, const char* table,
+            const char* entry, const char* last, const char* results) {
   Steps steps = {{Setup("[" + option + "] ")},
                  {"[cmdNext] "},
-                 {"", pictures[0]},
-                 {TenTiers(), pictures[1]},
+                 {TierTable(10), table},
+                 {TierTable(3)},
                  {"[cmdCalculate] "}};
-  for (int entry = 1; entry <= entries; ++entry) {
-    steps.push_back({QString("[txtBal]%1[txtDiscAPY]10.65[txtTerm]365\t")
-                         .arg((entry / 2) * 1000000000000.0 + 1000, 0, 'f', 2),
-                     entry == 1 ? pictures[2] : nullptr});
-    steps.push_back({"[cmdNext] ", entry == 1 ? pictures[3] : nullptr});
+  for (const QString& balance : balances) {
+    const bool isFirst = balance == balances.front();
+    const char* picture = isFirst ? entry : balance == balances.back() ? last : nullptr;
+    // The term of the first entry is that of all.
+    const QString term = isFirst ? "[txtTerm]365" : "";
+    steps.push_back({term + "[txtBal]" + balance + "[txtDiscAPY]10.65\t", picture});
+    steps.push_back({"[cmdNext] "});
   }
-  steps.push_back({"", pictures[4]});
+  steps.push_back({"", results});
   steps.push_back({"[cmdExit] "});
   return steps;
 }
 
-/// A balance and a rate for each of so many days, page by page.
-QString EveryDay(int count) {
-  constexpr int kDaysOfPage = 33;
-  QString keys;
-  for (int day = 0; day < count; ++day) {
-    if (day > 0 && day % kDaysOfPage == 0) keys += "&n";
-    keys += "999999999999.99\t10.1234\t";
-  }
-  return keys;
-}
-
-/// The days of a statement's period, its results and its detail.
-Steps Days(int count, const char* days, const char* period, const char* results,
-           const char* detail) {
+/// The days of a statement's period; the results where they are asked for.
+Steps Days(int count, const char* days, const char* last) {
   return {{"[cmdStatement] [txtName]First Example Bank[optStepRate] [cmdNext] "},
           {"[txtDateStart]04012025[txtMinADB]0[txtMinDBal]0[txtDClApy]6.58[txtLedgerdays]" +
            QString::number(count) + "\t[cmdComputeLADB] "},
-          {EveryDay(count), days},
-          {"&c"},
-          {"", period},
-          {"&c", results},
-          {"&s", detail},
-          {"&b"},
-          {"&m"}};
+          {"999999999999.99\t10.1234[mnuCopyToEnd]", days},
+          {count > 33 ? "&n" : ""},
+          {count > 66 ? "&n" : "", last}};
+}
+
+Steps Results(const char* period, const char* results, const char* detail) {
+  return {{"&c", period}, {"&c", results}, {"&s", detail}, {"&b"}};
 }
 
 /// Every window, in every state that lays it out in another way.
@@ -127,9 +123,11 @@ Steps EveryWindow() {
       {"[]"},
       {Setup("[optICNone] "), "setup-no-compounding"},
       {"[optICDays] [optRegNoDisc] [optRINotReq] ", "setup-days"},
-      {"[cmdNext] "},
-      {QString("[txtDiscAPY]5.39[txtBal]%1[txtIntRateA]5.25[txtTerm]0\t").arg(kMostMoney),
-       "entry-regular"},
+      {"[cmdNext] ", "entry-regular-empty"},
+      {"[txtDiscAPY]5.39[txtBal]1000[txtIntRateA][cmdCalculateResult] ", kMessage},
+      {"\r", "hint"},
+      {QString("[txtBal]%1[txtIntRateA]5.25[txtTerm]0\t").arg(kMostMoney)},
+      {"[tStartDate]10/1/2025[tEndDate]10/1/2026\t", "entry-regular"},
       {"[ImgCalendar(0)] ", "calendar"},
       {"\x1b"},
       {"[txtTerm]365\t[cmdCalculateResult] ", "results-regular"},
@@ -137,18 +135,24 @@ Steps EveryWindow() {
       {Setup("[optICMonths] [txtDailyCompounding]1[optStepRate] [optRIMonths] "), "setup-months"},
       {"[cmdNext] "},
       {QString("[txtTierPerNum]2[txtBeginMonth]11[txtBeginYear]2023[txtDiscAPY]5[txtBal]%1["
-               "txtIntRateA]5"
-               "[txtTerm]6[txtWdrwlPeriods]6[txtBtwnReqIntWdrwl]1\t")
+               "txtIntRateA]5[txtTerm]6[txtWdrwlPeriods]6[txtBtwnReqIntWdrwl]1\t")
            .arg(kMostMoney),
        "entry-stepped-months"},
-      {"[cmdNext] ", "entry-stepped-months-2"},
+      {"[cmdNext] "},
+      {"[cmdBack] ", "entry-stepped-months-2"},
       {"[cmdExit] "},
       {Setup("[optICDays] [optStepRate] [OptRIDays] ")},
-      {"[cmdNext] ", "entry-stepped-days"},
+      {"[cmdNext] "},
+      {"[txtTierPerNum]2[txtTerm]0[tStartDate]10/1/2023[tEndDate]3/2/2024\t", "entry-stepped-days"},
       {"[cmdExit] "},
       {"[cmdStatement] ", "statement-setup"},
       {"[optICNone] [optFormulaYes] [txtDCPeriod]30", "statement-setup-none"},
-      {"[cmdNext] "},
+      {"[cmdNext] ", "statement-period-empty"},
+      {"[ImgCalendar] "},
+      {"\r", "calendar-start"},
+      {"\x1b"},
+      {"", "calendar-end"},
+      {"\x1b"},
       {QString(
            "[txtDateStart]04012025[txtDateEnd]05012025[txtMinADB]%1[txtMinDBal]%1[txtDClApy]6.58"
            "[txtIntRate]6.3875[optLColl_No] [txtLedgerdays]0\t")
@@ -157,11 +161,13 @@ Steps EveryWindow() {
       {"[cmdExit] "},
   };
   for (const Steps& more :
-       {Tiers("optTierA", {"tiers-none", "tiers-a", "entry-tier-a", nullptr, "results-tier-a"}, 10),
-        Tiers("optTierB", {nullptr, "tiers-b", "entry-tier-b", "entry-tier-b-2", nullptr}, 1),
-        Days(1, "days-1", "statement-1", nullptr, nullptr),
-        Days(31, "days-31", "statement-31", "statement-results", "interest-report"),
-        Days(96, "days-96", nullptr, nullptr, nullptr)}) {
+       {Tiers("optTierA", {"1000", "150000000000", "5"}, "tiers-a", "entry-tier-a",
+              "entry-tier-a-last", "results-tier-a"),
+        Tiers("optTierB", {"1000"}, "tiers-b", "entry-tier-b", nullptr, "entry-tier-b-2"),
+        Days(1, "days-1", nullptr), Steps{{"&c", "statement-1"}, {"&m"}},
+        Days(31, "days-31", nullptr),
+        Results("statement-31", "statement-results", "interest-report"), Steps{{"&m"}},
+        Days(96, "days-96", "days-96-last")}) {
     steps.insert(steps.end(), more.begin(), more.end());
   }
   return steps;
@@ -170,6 +176,7 @@ Steps EveryWindow() {
 /// The window in front. Without a window manager nobody brings back the one behind a window that
 /// has closed.
 QWidget* Front() {
+  if (QWidget* window = QApplication::activeModalWidget()) return window;
   if (QWidget* window = QApplication::activeWindow()) return window;
   for (QWidget* window : QApplication::topLevelWidgets()) {
     if (qobject_cast<Form*>(window) && window->isVisible()) {
@@ -180,19 +187,30 @@ QWidget* Front() {
   return nullptr;
 }
 
-/// Gives the focus to a control, to type over what it holds; without a name the window closes.
+/// The walk has lost its way: the pictures would show something else.
+[[noreturn]] void LoseWay(const QString& reason) {
+  qFatal("%s", qPrintable(reason));
+}
+
+/// Gives the focus to a control, to type over what it holds, and triggers a menu item; without a
+/// name the window closes.
 void FocusOn(QWidget& window, const QString& name) {
   if (name.isEmpty()) {
     window.close();
+  } else if (auto* item = window.findChild<QAction*>(name)) {
+    item->trigger();
   } else if (auto* control = window.findChild<QWidget*>(name)) {
+    // Its keys would go to the field that has the focus.
+    if (!control->isEnabled()) LoseWay(name + " takes no keys");
     control->setFocus();
     if (auto* field = qobject_cast<QLineEdit*>(control)) field->selectAll();
   } else {
-    qWarning("no control %s in %s", qPrintable(name), qPrintable(window.objectName()));
+    LoseWay("no control " + name + " in " + window.objectName());
   }
 }
 
-/// Types keys; "&c" is Alt+C, "[txtBal]" gives the focus to a control, and "[]" closes the window.
+/// Types keys; "&c" is Alt+C, "[txtBal]" gives the focus to a control, "[mnuUndo]" triggers a menu
+/// item, and "[]" closes the window.
 void Type(const QString& keys) {
   for (qsizetype k = 0; k < keys.size(); ++k) {
     QWidget* window = Front();
@@ -240,6 +258,17 @@ bool TakeWindow(QWidget* window, const QString& path) {
   return WithPalette(window->grab().toImage()).save(path, "PNG", kSmallestFile);
 }
 
+/// Draws a window with its title bar, as a desktop does.
+void DrawFramed(QPainter& painter, QWidget& window) {
+  const int bar = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  const QRect frame = window.geometry().adjusted(-2, -bar, 2, 2);
+  painter.fillRect(frame, QColor(0x40, 0x50, 0x60));
+  painter.setPen(Qt::white);
+  painter.drawText(QRect(frame.topLeft(), QSize(frame.width(), bar)), Qt::AlignCenter,
+                   window.windowTitle());
+  painter.drawPixmap(window.geometry().topLeft(), window.grab());
+}
+
 /// The picture of the whole screen, so that what leaves the screen is missed.
 bool TakeScreen(QWidget* window, const QString& path) {
   QPixmap picture(window->screen()->size() * window->devicePixelRatio());
@@ -247,9 +276,9 @@ bool TakeScreen(QWidget* window, const QString& path) {
   picture.fill(Qt::darkCyan);
   QPainter painter(&picture);
   for (QWidget* shown : QApplication::topLevelWidgets()) {
-    if (shown->isVisible() && shown != window) painter.drawPixmap(shown->pos(), shown->grab());
+    if (shown->isVisible() && shown != window) DrawFramed(painter, *shown);
   }
-  painter.drawPixmap(window->pos(), window->grab());
+  DrawFramed(painter, *window);
   return picture.save(path);
 }
 
@@ -266,7 +295,7 @@ class Walk : public QObject {
  private:
   void Rest() {
     const QWidget* window = Front();
-    const bool isReport = window && window->findChild<WebView*>();
+    const bool isReport = window && step_->picture && window->findChild<WebView*>();
     QTimer::singleShot(isReport ? kReportMilliseconds : kRestMilliseconds, this,
                        [this] { Continue(); });
   }
@@ -277,9 +306,11 @@ class Walk : public QObject {
       QTimer::singleShot(0, this, [this] { Rest(); });
       return Type(step_->keys);
     }
+    const auto* box = qobject_cast<QMessageBox*>(Front());
+    if (box && step_->picture != QByteArrayView(kMessage))
+      LoseWay(step_->keys + " is answered by: " + box->text());
     if (step_->picture && !take_(Front(), PathOfPicture())) {
-      qWarning("%s was not written", qPrintable(PathOfPicture()));
-      return QCoreApplication::exit(1);
+      LoseWay(PathOfPicture() + " was not written");
     }
     typed_ = false;
     if (++step_ == steps_.end()) return QCoreApplication::exit();
@@ -301,13 +332,18 @@ QPalette DarkPalette() {
   return palette;
 }
 
-/// A screen of the size of a small one, without a display.
+/// A screen as small as 1024x768, without a display; one of so many times the dots where everything
+/// is drawn larger.
 bool MakeScreen(const QDir& folder) {
+  const int scale = qMax(1, qEnvironmentVariableIntValue("QT_SCALE_FACTOR"));
+  const QByteArray size =
+      QString(R"("width": %1, "height": %2)").arg(1024 * scale).arg(768 * scale).toUtf8();
   QFile file(folder.filePath("screen.json"));
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
   return file.open(QIODevice::WriteOnly) &&
          file.write(R"({"synchronousWindowSystemEvents": false, "windowFrameMargins": true,
-                       "screens": [{"name": "small", "x": 0, "y": 0, "width": 1024, "height": 768,
+                       "screens": [{"name": "small", "x": 0, "y": 0, )" +
+                    size + R"(,
                                     "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})") > 0;
 }
 

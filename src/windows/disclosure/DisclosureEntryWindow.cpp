@@ -35,7 +35,8 @@ DisclosureEntryWindow::DisclosureEntryWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::DisclosureEntryWindow>()) {
   ui_->setupUi(this);
   NameArrayElements();
-  dates_ = std::make_unique<DateRange>(*this, registry, ui_->tStartDate, ui_->tEndDate);
+  dates_ = std::make_unique<DateRange>(*this, registry, ui_->tStartDate, ui_->tEndDate,
+                                       ui_->lblDateCount);
   binding_ =
       std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] { ShowTyped(); });
   BindFields();

@@ -20,14 +20,21 @@ constexpr int kColumns = 7;
 constexpr int kRows = 6;
 constexpr int kMonthsOfYear = 12;
 
-/// The pointer; the button that has the focus when the pointer is elsewhere, as on a press of a
-/// key.
-QPoint PlaceOfCall() {
+/// The pointer; the window's button that has the focus when the pointer is elsewhere, as on a press
+/// of a key. The window itself may not have the focus back yet after a calendar before.
+QPoint PlaceOfCall(const QWidget* window) {
   const QPoint pointer = QCursor::pos();
-  const auto* button = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+  const auto* button = window ? qobject_cast<QAbstractButton*>(window->focusWidget()) : nullptr;
   if (!button) return pointer;
   const QRect place(button->mapToGlobal(QPoint()), button->size());
   return place.contains(pointer) ? pointer : place.center();
+}
+
+/// What the frame of a window needs to show its title whole, between an icon and three buttons.
+int WidthOfTitle(const QWidget& window) {
+  constexpr int kIconAndButtons = 5;
+  return window.fontMetrics().horizontalAdvance(window.windowTitle()) +
+         kIconAndButtons * window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
 }
 
 }  // namespace
@@ -59,8 +66,8 @@ std::optional<Date> CalendarPopup::PickDate(const Date& from, const QString& cap
   dateChosen_ = false;
   if (!caption.isEmpty()) setWindowTitle(caption);
   MoveTo(from);
-  resize(sizeHint());
-  PlaceBeside(*this, PlaceOfCall());
+  resize(sizeHint().expandedTo({WidthOfTitle(*this), 0}));
+  PlaceBeside(*this, PlaceOfCall(windows().MainWindow()));
   ui_->picMonth->setFocus();
   // Read when the window closes: it may be gone when the call below returns.
   std::optional<Date> picked;

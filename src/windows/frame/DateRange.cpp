@@ -3,14 +3,16 @@
 #include <QtWidgets>
 
 #include "windows/frame/CalendarPopup.h"
-#include "windows/frame/DateCount.h"
 #include "windows/frame/DateKeys.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
 
-DateRange::DateRange(Form& form, WindowRegistry& windows, QLineEdit* start, QLineEdit* end)
-    : windows_(windows), start_(start), end_(end), count_(new DateCount(start)) {
+DateRange::DateRange(Form& form, WindowRegistry& windows, QLineEdit* start, QLineEdit* end,
+                     QLabel* count)
+    : windows_(windows), start_(start), end_(end), count_(count) {
+  // The place of the line is kept, so that nothing below it jumps.
+  count_->setMinimumHeight(count_->fontMetrics().lineSpacing());
   for (QLineEdit* field : {start, end}) {
     new DateKeys(field, [&form](const std::string& refusal) { form.ShowHint(refusal); });
   }
@@ -23,7 +25,7 @@ bool DateRange::Pick(bool start, const Date& from) const {
 }
 
 void DateRange::ShowCount(const std::string& text) const {
-  count_->Show(text);
+  count_->setText(QString::fromStdString(text));
 }
 
 }  // namespace corvane

@@ -4,11 +4,11 @@
 
 #include "support/Dates.h"
 
+class QLabel;
 class QLineEdit;
 
 namespace corvane {
 
-class DateCount;
 class Form;
 class WindowRegistry;
 
@@ -17,7 +17,7 @@ class WindowRegistry;
 /// count.
 class DateRange {
  public:
-  DateRange(Form& form, WindowRegistry& windows, QLineEdit* start, QLineEdit* end);
+  DateRange(Form& form, WindowRegistry& windows, QLineEdit* start, QLineEdit* end, QLabel* count);
 
   QLineEdit* Field(bool start) const { return start ? start_ : end_; }
 
@@ -32,7 +32,7 @@ class DateRange {
   WindowRegistry& windows_;
   QLineEdit* start_;
   QLineEdit* end_;
-  DateCount* count_;
+  QLabel* count_;
 };
 
 }  // namespace corvane

@@ -16,7 +16,7 @@ constexpr Column kColumns[] = {{"Entry\nRate %", "10.0000"},
                                {"Balance\nAPY/computed", "1,000,000.00"}};
 
 /// How many lines of the list show below the fields, where the screen has room for them.
-constexpr int kLinesBelow = 6;
+constexpr int kLinesBelow = 5;
 
 QString Line(const std::string& text) {
   return QString::fromStdString(text);
@@ -72,6 +72,8 @@ EntryList::EntryList(QWidget* parent)
 }
 
 void EntryList::SetColumnsByFont() {
+  list_->header()->setSectionResizeMode(QHeaderView::Fixed);
+  list_->header()->setStretchLastSection(false);
   const QFontMetrics metrics = list_->fontMetrics();
   const int margin = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, list_);
   widthBeside_ = 2 * list_->frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
@@ -81,13 +83,18 @@ void EntryList::SetColumnsByFont() {
     list_->header()->resizeSection(place++, text + margin);
     widthBeside_ += text + margin;
   }
-  list_->header()->setSectionResizeMode(QHeaderView::Fixed);
 }
 
 void EntryList::PlaceIn(QMainWindow& window) {
   const bool beside = window.centralWidget()->sizeHint().width() + widthBeside_ <= window.width();
   const auto area = beside ? Qt::RightDockWidgetArea : Qt::BottomDockWidgetArea;
   if (window.dockWidgetArea(this) == area) return;
+  if (beside) {
+    SetColumnsByFont();
+  } else {
+    // There is room for the largest balance.
+    list_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  }
   const int heightBelow = kLinesBelow * list_->fontMetrics().lineSpacing();
   list_->setMinimumSize(beside ? QSize(widthBeside_, 0) : QSize(0, heightBelow / 3));
   list_->setMaximumSize(beside ? QSize(widthBeside_, QWIDGETSIZE_MAX)

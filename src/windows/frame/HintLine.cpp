@@ -9,7 +9,7 @@ constexpr std::pair<const char*, const char*> kNextSteps[] = {
     {"frmMain", "Choose what to verify: a disclosure or advertisement, or a periodic statement."},
     {"frmAbout", "OK closes this window."},
     {"frmHelp", "Choose a topic, or type words and press Search."},
-    {"frmCalendar", "Enter takes the marked date, Escape closes without one."},
+    {"frmCalendar", "Enter chooses the day, Escape closes."},
     {"frmAcctAdvertAPY", "Choose how the account earns interest. Continue goes on to its figures."},
     {"frmStatementUseandSelect",
      "Choose how the account earns interest. Continue goes on to the period."},

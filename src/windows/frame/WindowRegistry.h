@@ -55,6 +55,8 @@ class WindowRegistry {
     if (auto* form = Find<AForm>()) Close(*form);
   }
 
+  /// The main window that is shown; null before the first one.
+  const Form* MainWindow() const;
   /// Whether the form is shown and no modal window stands above it.
   bool IsInFront(const Form& form) const;
   /// Closes a window without ending the program.
@@ -84,8 +86,6 @@ class WindowRegistry {
   void Add(std::type_index type, Form* form);
   /// Takes the form from the screen; it takes no input any more.
   void Unload(Form& form);
-  /// The main window that is shown; null before the first one.
-  const Form* MainWindow() const;
   /// Main windows follow each other as the pages of one window: same place, same size.
   void PlaceBeforeShowing(Form& form);
   void BringToFront(Form& form);

@@ -25,7 +25,8 @@ StatementEntryWindow::StatementEntryWindow(WindowRegistry& registry)
   ui_->setupUi(this);
   binding_ = std::make_unique<FieldBinding<StatementEntry>>(
       *this, Entry(), [this] { ShowGroups(); }, [this] { FollowChanges(session().statement); });
-  dates_ = std::make_unique<DateRange>(*this, registry, ui_->txtDateStart, ui_->txtDateEnd);
+  dates_ = std::make_unique<DateRange>(*this, registry, ui_->txtDateStart, ui_->txtDateEnd,
+                                       ui_->lblDateCount);
   BindFields();
   BindButtons();
 }
