@@ -17,7 +17,7 @@ constexpr int kHelpContext = 15;
 }  // namespace
 
 DisclosureResultsWindow::DisclosureResultsWindow(WindowRegistry& registry)
-    : ReportWindow(registry, Role::Main, kDisclosureReport),
+    : ResultsWindow(registry, Role::Main, kDisclosureReport),
       ui_(std::make_unique<Ui::DisclosureResultsWindow>()) {
   ui_->setupUi(this);
   PlaceView(ui_->fraReport, "WebView");
@@ -26,6 +26,7 @@ DisclosureResultsWindow::DisclosureResultsWindow(WindowRegistry& registry)
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { routes().ShowMainMenuKeepingHeader(); });
+  AddFileItems();
   EnterPresses({ui_->cmdBack});
   BindCommonMenus(kHelpContext);
 }
@@ -37,6 +38,10 @@ void DisclosureResultsWindow::Form_Activate() {
   ShowNextStep(NextStepOfResults(session().disclosure));
   BuildReport();
   FocusReport();
+}
+
+AddOutcome DisclosureResultsWindow::AddTo(const std::filesystem::path& file) {
+  return AddToFile(file, session().header, session().disclosure);
 }
 
 ReportContent DisclosureResultsWindow::Content() {
