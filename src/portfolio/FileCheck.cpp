@@ -4,7 +4,9 @@
 
 #include "portfolio/DayRows.h"
 #include "portfolio/InputFile.h"
+#include "support/Clock.h"
 #include "support/Paths.h"
+#include "support/ProgramVersion.h"
 
 namespace corvane {
 
@@ -88,6 +90,20 @@ std::filesystem::path BalancesBeside(const std::filesystem::path& accounts) {
   return accounts.parent_path() / name;
 }
 
+PortfolioFiles WithBalancesBeside(PortfolioFiles files) {
+  std::error_code failure;
+  const auto beside = BalancesBeside(files.accounts);
+  const bool isBeside = std::filesystem::is_regular_file(beside, failure);
+  if (files.balances.empty() && isBeside) files.balances = beside;
+  return files;
+}
+
+std::string FilesText(const PortfolioFiles& files) {
+  const std::string accounts = PathText(files.accounts);
+  if (files.balances.empty()) return accounts;
+  return accounts + ", daily balances: " + PathText(files.balances.filename());
+}
+
 PortfolioFiles TellApart(const std::vector<std::filesystem::path>& files) {
   PortfolioFiles told;
   for (const auto& file : files) {
@@ -103,6 +119,11 @@ FileCheckEnd CheckFile(
   end.refusal = Run(files, cancel).Read(threads, take, end);
   end.wasCancelled = cancel;
   return end;
+}
+
+ReportContent ReportOf(const PortfolioFiles& files, const FileCheckEnd& end) {
+  return end.summary.Content(FilesText(files) + (end.wasCancelled ? " (not read to its end)" : ""),
+                             std::string("Corvane ") + kProgramVersion, FormatDate(Today()));
 }
 
 Refusal FileNotRead(const FileError& error) {

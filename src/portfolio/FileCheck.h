@@ -22,6 +22,12 @@ struct PortfolioFiles {
 /// "accounts.csv".
 std::filesystem::path BalancesBeside(const std::filesystem::path& accounts);
 
+/// The files with the balances beside them, where none were chosen and they exist.
+PortfolioFiles WithBalancesBeside(PortfolioFiles files);
+
+/// What a window says of the files: "/folder/accounts.csv, daily balances: days.csv".
+std::string FilesText(const PortfolioFiles& files);
+
 /// Tells files that were chosen together apart by their first lines. The last one of each kind
 /// counts; a file that cannot be read counts as one of accounts.
 PortfolioFiles TellApart(const std::vector<std::filesystem::path>& files);
@@ -33,6 +39,9 @@ struct FileCheckEnd {
   PortfolioSummary summary;
   bool wasCancelled = false;
 };
+
+/// What a report of the file puts into its template.
+ReportContent ReportOf(const PortfolioFiles& files, const FileCheckEnd& end);
 
 /// How far a file is read.
 struct FileCheckProgress {

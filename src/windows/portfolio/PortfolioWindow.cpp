@@ -9,9 +9,7 @@
 #include "portfolio/ResultRows.h"
 #include "reports/HtmlText.h"
 #include "reports/SaveName.h"
-#include "support/Clock.h"
 #include "support/Paths.h"
-#include "support/ProgramVersion.h"
 #include "ui_PortfolioWindow.h"
 #include "windows/frame/ContextLine.h"
 #include "windows/frame/FileDrop.h"
@@ -105,10 +103,7 @@ void PortfolioWindow::CheckFiles(const std::vector<std::filesystem::path>& files
   if (!told.accounts.empty()) files_ = told;
   if (!told.balances.empty()) files_.balances = told.balances;
   if (!HasFile()) return ShowHint("Now choose the file of the statements.");
-  std::error_code failure;
-  const auto beside = BalancesBeside(files_.accounts);
-  const bool isBeside = std::filesystem::is_regular_file(beside, failure);
-  if (files_.balances.empty() && isBeside) files_.balances = beside;
+  files_ = WithBalancesBeside(files_);
   Start();
 }
 
@@ -117,9 +112,7 @@ void PortfolioWindow::Start() {
   progress_ = {};
   end_ = {};
   lacksDays_ = false;
-  const std::string days =
-      files_.balances.empty() ? "" : ", daily balances: " + PathText(files_.balances.filename());
-  file_->ShowContext(PathText(files_.accounts) + days);
+  file_->ShowContext(FilesText(files_));
   run_.Start(files_);
   FocusField(ui_->tblResults);
   ShowState();
@@ -198,11 +191,7 @@ void PortfolioWindow::cmdOpen_Click() {
 }
 
 void PortfolioWindow::cmdReport_Click() {
-  const std::string files = PathText(files_.accounts) +
-                            (end_.wasCancelled ? " (not read to its end)" : "") +
-                            (files_.balances.empty() ? "" : ", " + PathText(files_.balances));
-  routes().ShowPortfolioReport(
-      end_.summary.Content(files, std::string("Corvane ") + kProgramVersion, FormatDate(Today())));
+  routes().ShowPortfolioReport(ReportOf(files_, end_));
 }
 
 void PortfolioWindow::cmdSave_Click() {
