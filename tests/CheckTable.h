@@ -113,6 +113,15 @@ inline void RunCheck(std::string line, const CheckedValues& values) {
   }
 }
 
+/// The table of a person who begins anew with each account.
+template <class Person>
+CheckedValues TableOf(Person& person) {
+  return {.begin = [&person] { person = {}; },
+          .put = [&person](auto& name, auto& text) { return person.Put(name, text); },
+          .said = [&person] { return person.Answer(); },
+          .shown = [&person](auto& name) { return person.Shown(name); }};
+}
+
 /// Goes through a table of checks. A line that is not indented begins with a new account.
 inline void RunChecks(const std::string& table, const CheckedValues& values) {
   const std::string path = CORVANE_TESTS + table;

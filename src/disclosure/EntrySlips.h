@@ -13,4 +13,8 @@ namespace corvane {
 std::optional<std::string> SlipOf(const DisclosureCheck& check, const DisclosureEntry& entry,
                                   std::string_view control);
 
+/// What is asked beside the results of the daily rate factor of the entry that was completed last:
+/// where Calculate followed the typing at once, the question went with the entry window.
+std::optional<std::string> SlipOfResults(const DisclosureCheck& check);
+
 }  // namespace corvane

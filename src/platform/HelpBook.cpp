@@ -20,21 +20,6 @@ quint32 NumberAt(const QByteArray& bytes, qsizetype place) {
   return qFromLittleEndian<quint32>(bytes.constData() + place);
 }
 
-/// The entry "#IVB" is its own length, then pairs: a context number and the place in "#STRINGS"
-/// where a path stands. The compiler writes the path that the source had when it was compiled, of
-/// which the name is what the topic has here.
-std::map<int, QString> ContextsOf(const QByteArray& numbers, const QByteArray& strings) {
-  constexpr qsizetype kNumber = sizeof(quint32);
-  std::map<int, QString> contexts;
-  for (qsizetype at = kNumber; at + 2 * kNumber <= numbers.size(); at += 2 * kNumber) {
-    const qsizetype start = NumberAt(numbers, at + kNumber);
-    const qsizetype end = strings.indexOf('\0', start);
-    const QString path = QString::fromUtf8(strings.mid(start, end - start));
-    contexts[static_cast<int>(NumberAt(numbers, at))] = path.section('/', -1);
-  }
-  return contexts;
-}
-
 using Tags = QRegularExpressionMatchIterator;
 
 /// The tags that make up a table of contents: lists, entries and what is said of an entry.
@@ -61,6 +46,18 @@ std::vector<HelpEntry> EntriesOf(Tags& tags) {
 }
 
 }  // namespace
+
+std::map<int, QString> ContextsOf(const QByteArray& numbers, const QByteArray& strings) {
+  constexpr qsizetype kNumber = sizeof(quint32);
+  std::map<int, QString> contexts;
+  for (qsizetype at = kNumber; at + 2 * kNumber <= numbers.size(); at += 2 * kNumber) {
+    const qsizetype start = NumberAt(numbers, at + kNumber);
+    const qsizetype end = strings.indexOf('\0', start);
+    const QString path = QString::fromUtf8(strings.mid(start, end - start));
+    contexts[static_cast<int>(NumberAt(numbers, at))] = path.section('/', -1);
+  }
+  return contexts;
+}
 
 HelpBook::HelpBook(HelpContent content)
     : content_(std::move(content)), contexts_(ContextsOf(content_["#IVB"], content_["#STRINGS"])) {

@@ -18,6 +18,12 @@ struct HelpEntry {
   std::vector<HelpEntry> entries;
 };
 
+/// The topics by context number, of a help file's entries "#IVB" and "#STRINGS". The first is its
+/// own length, then pairs: a context number and the place in the second where a path stands. The
+/// compiler writes the path that the source had when it was compiled, of which the name is what the
+/// topic has in the file.
+std::map<int, QString> ContextsOf(const QByteArray& numbers, const QByteArray& strings);
+
 /// The help of the program: its topics, named by their files, such as "main-menu.htm".
 class HelpBook {
  public:

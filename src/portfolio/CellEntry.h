@@ -32,9 +32,32 @@ std::string Typed(std::string_view cell, std::span<const DecimalLimit> limits, c
                   Told& told);
 std::string Typed(std::string_view cell, const DecimalLimit& limit, Told& told);
 
+/// A column and the field that its cells are typed into.
+template <class Values>
+struct FieldColumn {
+  Column column;
+  Field Values::*field;
+  const char* control;
+};
+
 /// Why a cell has no place where nothing can be typed: it is neither empty nor 0 and says something
 /// else than what stands there.
 std::optional<Refusal> CheckClosed(std::string_view cell, std::string_view stands, Column column);
+
+/// Types a cell into its field, or refuses it where the field is closed. An empty cell leaves what
+/// stands there, and nothing is typed behind a refusal.
+template <class Values>
+void TypeCell(Values& values, const FieldColumn<Values>& column, std::string_view cell,
+              Told& told) {
+  Field& field = values.*column.field;
+  if (told.refusal || cell.empty()) return;
+  if (!field.enabled) {
+    told.Refuses(CheckClosed(cell, field.text, column.column));
+    return;
+  }
+  field.text = Typed(cell, Values::Decimals(), column.control, told);
+  field.workedOut = false;
+}
 
 /// A word of a column and the option that it chooses.
 struct OptionWord {

@@ -34,11 +34,7 @@ const OptionWords<DisclosureSetup>& Words() {
   return words;
 }
 
-struct EntryColumn {
-  Column column;
-  Field Entry::*field;
-  const char* control;
-};
+using EntryColumn = FieldColumn<Entry>;
 
 /// What a row says of an entry beside its term and dates.
 constexpr EntryColumn kEntryColumns[] = {
@@ -177,15 +173,7 @@ class Filling {
   }
 
   void Type(DisclosureEntry& entry, const PortfolioRow& row, const EntryColumn& column) {
-    const std::string_view cell = row.Cell(column.column);
-    Field& field = entry.*column.field;
-    if (!Goes() || cell.empty()) return;
-    if (!field.enabled) {
-      filled_.told.Refuses(CheckClosed(cell, field.text, column.column));
-      return;
-    }
-    field.text = Typed(cell, DisclosureEntry::Decimals(), column.control, filled_.told);
-    field.workedOut = false;
+    TypeCell(entry, column, row.Cell(column.column), filled_.told);
   }
 
   void CheckUnused(const PortfolioRow& row, Column column) {

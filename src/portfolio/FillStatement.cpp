@@ -31,11 +31,7 @@ const OptionWords<Entry>& WordsOf(const Entry&) {
   return words;
 }
 
-struct EntryColumn {
-  Column column;
-  Field Entry::*field;
-  const char* control;
-};
+using EntryColumn = FieldColumn<Entry>;
 
 constexpr EntryColumn kEntryColumns[] = {
     {Column::MinimumAdb, &Entry::txtMinADB, "txtMinADB"},
@@ -125,14 +121,7 @@ class Filling {
   }
 
   void Type(Entry& entry, const EntryColumn& column) {
-    if (!Goes() || Cell(column.column).empty()) return;
-    Field& field = entry.*column.field;
-    if (!field.enabled) {
-      filled_.told.Refuses(CheckClosed(Cell(column.column), field.text, column.column));
-      return;
-    }
-    field.text = Typed(Cell(column.column), Entry::Decimals(), column.control, filled_.told);
-    field.workedOut = false;
+    TypeCell(entry, column, Cell(column.column), filled_.told);
   }
 
   /// Days that the row leaves out are counted from its dates, as by the calendar.

@@ -8,7 +8,7 @@
 
 #include "account/DateEntry.h"
 #include "account/NumericEntry.h"
-#include "support/WholeFile.h"
+#include "support/Csv.h"
 
 namespace corvane {
 
@@ -20,27 +20,23 @@ constexpr std::size_t kRateDecimals = 4;
 struct Line {
   std::size_t number = 0;
   std::vector<std::string> cells;
+  CsvDamage damage = CsvDamage::None;
 };
 
 // ---- Lines and cells
 
-/// The cells of a line, without their quotes. No cell of a day holds a quote or a line end; for one
-/// that did, a reader of whole CSV files would have to take the place of this.
-std::vector<std::string> CellsOf(std::string_view line, char separator) {
-  std::vector<std::string> cells(1);
-  bool quoted = false;
-  for (const char c : line) {
-    if (c == '"') quoted = !quoted;
-    const bool ends = c == separator && !quoted;
-    if (ends) cells.emplace_back();
-    if (!ends && c != '"') cells.back() += c;
-  }
-  while (cells.size() > 1 && Trim(cells.back()).empty()) cells.pop_back();
-  return cells;
+/// A line without the empty cells at its end.
+Line LineOf(const CsvRecord& record) {
+  Line line{record.line, {}, record.damage};
+  std::string buffer;
+  for (const std::string_view cell : record.cells) line.cells.emplace_back(CsvText(cell, buffer));
+  while (line.cells.size() > 1 && Trim(line.cells.back()).empty()) line.cells.pop_back();
+  return line;
 }
 
 bool IsEmpty(const Line& line) {
-  return line.cells.size() == 1 && Trim(line.cells.front()).empty();
+  return line.damage == CsvDamage::None && line.cells.size() == 1 &&
+         Trim(line.cells.front()).empty();
 }
 
 bool NamesColumn(std::string_view cell) {
@@ -63,11 +59,9 @@ bool IsHeading(const Line& line) {
 }
 
 /// The lines of a table without its heading and without empty lines at the end.
-std::vector<Line> LinesOfTable(std::string_view table, char separator) {
+std::vector<Line> LinesOfTable(CsvReader& table) {
   std::vector<Line> lines;
-  for (const std::string& text : LinesOf(table)) {
-    lines.push_back({lines.size() + 1, CellsOf(text, separator)});
-  }
+  while (const CsvRecord* record = table.Next()) lines.push_back(LineOf(*record));
   while (!lines.empty() && IsEmpty(lines.back())) lines.pop_back();
   if (!lines.empty() && IsHeading(lines.front())) lines.erase(lines.begin());
   return lines;
@@ -126,6 +120,9 @@ std::variant<DayLine, Refusal> ReadLine(const DayTable& table, const Line& line)
 }
 
 std::variant<DayTable, Refusal> ReadTable(std::vector<Line> lines, bool singleIsRate) {
+  const auto damaged =
+      std::ranges::find_if(lines, [](const Line& line) { return line.damage != CsvDamage::None; });
+  if (damaged != lines.end()) return RefuseLine(damaged->number, DamageText(damaged->damage));
   const auto first = std::ranges::find_if_not(lines, IsEmpty);
   if (first == lines.end()) return RefuseTable("There are no balances.");
   DayTable table{.hasDates = ReadPastedDate(first->cells.front()).has_value(), .lines = {}};
@@ -143,13 +140,6 @@ std::variant<DayTable, Refusal> ReadTable(std::vector<Line> lines, bool singleIs
 
 // ---- CSV
 
-char SeparatorOf(std::string_view csv) {
-  for (const char separator : {';', '\t'}) {
-    if (csv.find(separator) != csv.npos) return separator;
-  }
-  return ',';
-}
-
 bool IsDigits(std::string_view text) {
   return std::ranges::all_of(text, [](unsigned char c) { return std::isdigit(c); });
 }
@@ -164,7 +154,7 @@ bool MayBeOneAmount(std::string_view whole, std::string_view rest) {
 }
 
 std::optional<Refusal> CheckThousands(const std::vector<Line>& lines) {
-  for (const auto& [number, cells] : lines) {
+  for (const auto& [number, cells, damage] : lines) {
     for (std::size_t k = 1; k < cells.size(); ++k) {
       if (!MayBeOneAmount(cells[k - 1], cells[k])) continue;
       return RefuseLine(number,
@@ -178,15 +168,15 @@ std::optional<Refusal> CheckThousands(const std::vector<Line>& lines) {
 }  // namespace
 
 std::variant<DayTable, Refusal> ReadCopiedTable(std::string_view copied, bool singleIsRate) {
-  return ReadTable(LinesOfTable(copied, '\t'), singleIsRate);
+  CsvReader reader(CsvSourceOf(copied), {.separator = '\t', .keepsEmptyLines = true});
+  return ReadTable(LinesOfTable(reader), singleIsRate);
 }
 
 std::variant<DayTable, Refusal> ReadCsvTable(std::string_view csv) {
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";
-  if (csv.starts_with(kMark)) csv.remove_prefix(kMark.size());
-  const char separator = SeparatorOf(csv);
-  const std::vector<Line> lines = LinesOfTable(csv, separator);
-  const auto refusal = separator == ',' ? CheckThousands(lines) : std::nullopt;
+  CsvReader reader(CsvSourceOf(csv), {.separator = std::nullopt, .keepsEmptyLines = true});
+  if (*reader.Refusal() != '\0') return RefuseTable(reader.Refusal());
+  const std::vector<Line> lines = LinesOfTable(reader);
+  const auto refusal = reader.Separator() == ',' ? CheckThousands(lines) : std::nullopt;
   if (refusal) return *refusal;
   return ReadTable(lines, false);
 }

@@ -34,8 +34,8 @@ struct DayTable {
 /// pasted into one.
 std::variant<DayTable, Refusal> ReadCopiedTable(std::string_view copied, bool singleIsRate);
 
-/// A file whose cells are parted by commas, semicolons or tabs; amounts that hold a comma stand in
-/// quotes.
+/// A file whose cells are parted by commas, semicolons or tabs (see Csv.h); amounts that hold a
+/// comma stand in quotes.
 std::variant<DayTable, Refusal> ReadCsvTable(std::string_view csv);
 
 /// Whether a copied text is a table: one cell alone is pasted into its field.

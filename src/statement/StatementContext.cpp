@@ -1,6 +1,7 @@
 #include "statement/StatementContext.h"
 
 #include "account/ContextText.h"
+#include "account/SlipNotice.h"
 
 namespace corvane {
 
@@ -67,6 +68,10 @@ std::string NextStepOfEntry(const StatementEntry& entry) {
     if (question.isOpen(entry)) return question.text;
   }
   return "Calculate computes the APY earned and compares it.";
+}
+
+std::optional<std::string> SlipOfResults(const StatementCheck& check) {
+  return FactorNotice(check.entry.txtDRFactor.text);
 }
 
 std::string NextStepOfResults(const StatementCheck& check) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "account/AccountHeader.h"
@@ -14,6 +15,10 @@ std::string ContextOf(const AccountHeader& header, const StatementCheck& check);
 
 /// What the period window asks for first, of what is still missing.
 std::string NextStepOfEntry(const StatementEntry& entry);
+
+/// What is asked beside the results of a daily rate factor of no year: where Calculate followed the
+/// typing at once, the question went with the period window.
+std::optional<std::string> SlipOfResults(const StatementCheck& check);
 
 /// What the results window can be left for.
 std::string NextStepOfResults(const StatementCheck& check);

@@ -82,12 +82,17 @@ const char* DamageText(CsvDamage damage) {
   return "";
 }
 
-CsvReader::CsvReader(Source source) : source_(std::move(source)) {
+CsvReader::CsvReader(Source source, CsvFormat format)
+    : source_(std::move(source)), keepsEmptyLines_(format.keepsEmptyLines) {
   buffer_.resize(kBlock);
   while (end_ < kLongestRecord && ReadMore()) {
   }
   SkipMark();
-  TellSeparator();
+  if (format.separator) {
+    separator_ = *format.separator;
+  } else {
+    TellSeparator();
+  }
   next_ = begin_;
 }
 
@@ -114,11 +119,13 @@ void CsvReader::SkipMark() {
 
 void CsvReader::TellSeparator() {
   std::array<int, std::size(kSeparators)> counts{};
-  bool quoted = false;
-  for (std::size_t at = begin_; at < end_ && (quoted || buffer_[at] != '\n'); ++at) {
+  bool quoted = false, found = false;
+  for (std::size_t at = begin_; at < end_ && (quoted || !found || buffer_[at] != '\n'); ++at) {
     if (buffer_[at] == '"') quoted = !quoted;
-    const auto* found = std::ranges::find(kSeparators, buffer_[at]);
-    if (!quoted && found != std::end(kSeparators)) ++counts[std::size_t(found - kSeparators)];
+    const auto* separator = std::ranges::find(kSeparators, buffer_[at]);
+    if (quoted || separator == std::end(kSeparators)) continue;
+    ++counts[std::size_t(separator - kSeparators)];
+    found = true;
   }
   const auto most = std::ranges::max_element(counts) - counts.begin();
   separator_ = kSeparators[most];
@@ -135,7 +142,8 @@ const CsvRecord* CsvReader::Next() {
       }
       ReadMore();
     }
-    if (!record_.text.empty() || record_.damage != CsvDamage::None) return &record_;
+    if (keepsEmptyLines_ || !record_.text.empty() || record_.damage != CsvDamage::None)
+      return &record_;
   }
 }
 

@@ -34,17 +34,23 @@ struct CsvRecord {
   LineEnd end = LineEnd::None;
 };
 
+/// How a text is read that may be other than a whole file of records.
+struct CsvFormat {
+  std::optional<char> separator;  ///< nothing: the one that stands most often in the first line
+                                  ///< that has any: comma, semicolon or tab
+  bool keepsEmptyLines = false;   ///< each is a record of one empty cell, else it is left out
+};
+
 /// Reads record after record. Memory does not grow with the file.
 class CsvReader {
  public:
   /// Puts the next bytes into the block and returns how many, 0 behind the last.
   using Source = std::function<std::size_t(std::span<char>)>;
 
-  /// Reads the beginning: the mark is left out, and the separator (comma, semicolon or tab) is the
-  /// one that stands most often in the first line.
-  explicit CsvReader(Source source);
+  /// Reads the beginning; the mark is left out.
+  explicit CsvReader(Source source, CsvFormat format = {});
 
-  /// The next record, valid until the next call; nothing behind the last. Empty lines are left out.
+  /// The next record, valid until the next call; nothing behind the last.
   const CsvRecord* Next();
 
   char Separator() const { return separator_; }
@@ -67,6 +73,7 @@ class CsvReader {
   void SkipLongLine();
 
   Source source_;
+  bool keepsEmptyLines_;
   std::string buffer_;
   std::size_t begin_ = 0;  ///< of what is not read yet, in the buffer
   std::size_t end_ = 0;    ///< of what the buffer holds

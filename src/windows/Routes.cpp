@@ -24,6 +24,7 @@ namespace corvane {
 
 template <class Window>
 void Routes::Go() {
+  if (windows_.HasEnded()) return;
   windows_.CloseOtherMainWindows(windows_.Show<Window>());
 }
 

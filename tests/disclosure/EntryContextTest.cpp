@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "disclosure/NextStep.h"
-
 namespace corvane {
 namespace {
 
@@ -54,17 +52,6 @@ TEST(EntryContext, WarnsOfABalanceOutsideItsTierByMethodA) {
   }
   check.setup.kind = AccountKind::TierB;
   EXPECT_FALSE(TierContextOf(check, {.text = "1"}).balanceOutside);
-}
-
-TEST(NextStep, TellsWhichPeriodFollowsTheResults) {
-  DisclosureCheck check;
-  check.setup.kind = AccountKind::Stepped;
-  check.entries.resize(2);
-  check.entries.front().txtTierPerNum.text = "2";
-  check.completed = 1;
-  EXPECT_EQ(NextStepOfResults(check), "Period 1 of 2 computed. Back goes on to period 2.");
-  check.completed = 2;
-  EXPECT_EQ(NextStepOfResults(check), "Period 2 of 2 computed. Back returns to period 2.");
 }
 
 }  // namespace

@@ -75,11 +75,7 @@ class Person {
 
 TEST(DayFilling, AgreesWithItsTable) {
   Person person;
-  RunChecks("statement/DayChecks.txt",
-            {.begin = [&] { person = {}; },
-             .put = [&](auto& name, auto& text) { return person.Put(name, text); },
-             .said = [&] { return person.Answer(); },
-             .shown = [&](auto& name) { return person.Shown(name); }});
+  RunChecks("statement/DayChecks.txt", TableOf(person));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "CheckTable.h"
 #include "statement/EntryChecks.h"
+#include "statement/StatementContext.h"
 #include "statement/StatementNotes.h"
 
 namespace corvane {
@@ -45,6 +46,8 @@ class Person {
     if (name == "Collected") return FirstDay(Collected);
     if (name == "factor") return FormatPlain(AccountOf(check_).factorDays);
     if (name == "result") return Result();
+    if (name == "context") return ContextOf({}, check_);
+    if (name == "next") return NextStepOfEntry(check_.entry);
     if (name == "notes") return ShownNotes();
     const std::string chosen = ShownBy(choices_, name);
     return chosen.starts_with("no control") ? ShownBy(check_.entry, name) : chosen;
@@ -127,11 +130,7 @@ class Person {
 
 TEST(StatementCheck, AgreesWithItsTable) {
   Person person;
-  RunChecks("statement/StatementChecks.txt",
-            {.begin = [&] { person = {}; },
-             .put = [&](auto& name, auto& text) { return person.Put(name, text); },
-             .said = [&] { return person.Answer(); },
-             .shown = [&](auto& name) { return person.Shown(name); }});
+  RunChecks("statement/StatementChecks.txt", TableOf(person));
 }
 
 }  // namespace

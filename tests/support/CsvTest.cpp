@@ -9,10 +9,11 @@ namespace corvane {
 namespace {
 
 /// "line:cell|cell;" of every record, "line!damage;" of a damaged one.
-std::string Read(std::string_view text, std::size_t atOnce) {
+std::string Read(std::string_view text, std::size_t atOnce, CsvFormat format = {}) {
   CsvReader::Source all = CsvSourceOf(text);
   CsvReader reader(
-      [&](std::span<char> block) { return all(block.first(std::min(atOnce, block.size()))); });
+      [&](std::span<char> block) { return all(block.first(std::min(atOnce, block.size()))); },
+      format);
   std::string told, buffer;
   while (const CsvRecord* record = reader.Next()) {
     told += std::to_string(record->line);
@@ -47,6 +48,7 @@ TEST(Csv, ReadsWhatIsSoundAndTellsTheLineOfWhatIsNot) {
        "1:a|b;2:1|;3:|2;"},
       {"semicolons", "a;b;c,d\n1;2;3\n", "1:a|b|c,d;2:1|2|3;"},
       {"tabs beside a separator in quotes", "a\t\"b,,c\"\n", "1:a|b,,c;"},
+      {"the first line that has a separator tells it", "a\nb;c,d;e\n", "1:a;2:b|c,d|e;"},
       {"quotes, doubled and with line breaks", "a,\"b\"\"\r\n\"\"c\"\n\"\",2\n",
        "1:a|b\"\r\n\"c;3:|2;"},
       {"quotes that begin no cell", "a,5\" pipe\n", "1:a|5\" pipe;"},
@@ -84,6 +86,11 @@ TEST(Csv, ReadsWhatIsSoundAndTellsTheLineOfWhatIsNot) {
                                                       4)))
                    .Refusal(),
                "");
+}
+
+TEST(Csv, EmptyLinesAndTheSeparatorAreReadAsToldTo) {
+  const CsvFormat cells{.separator = '\t', .keepsEmptyLines = true};
+  EXPECT_EQ(Read("\n1;2\t3\r\n\r\n\n4\n", 3, cells), "1:;2:1;2|3;3:;4:;5:4;");
 }
 
 TEST(Csv, WhatIsWrittenIsReadAgain) {

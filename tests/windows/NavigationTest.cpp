@@ -6,6 +6,8 @@
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
 #include "windows/start/MainMenu.h"
+#include "windows/statement/DailyBalancesWindow.h"
+#include "windows/statement/StatementEntryWindow.h"
 #include "windows/statement/StatementSetupWindow.h"
 
 namespace corvane {
@@ -132,6 +134,57 @@ TEST_F(Navigation, ExitOfTheDisclaimerEndsTheProcessWhateverElseIsOpen) {
   watchdog.start(5000);
   EXPECT_EQ(QApplication::exec(), 0) << "the process goes on";
   EXPECT_EQ(session.header.institution, "First Bank") << "no window was closed as by its frame";
+}
+
+TEST_F(Navigation, TheProgramEndsUnderAWindowThatWaitsForAnother) {
+  session.workflow = Workflow::Statement;
+  session.statement.setup = StatementSetupAtStart();
+  Open<StatementEntryWindow>();
+  Choose("optADB");
+  for (const auto& [field, text] : {std::pair{"txtMinADB", "0"},
+                                    {"txtMinDBal", "0"},
+                                    {"txtDClApy", "5"},
+                                    {"txtIntRate", "5"},
+                                    {"txtLedgerdays", "2"}}) {
+    Type(field, text);
+  }
+  const QPointer<Form> waits = Front();
+  bool returned = false;
+  QTimer::singleShot(0, qApp, [&] {
+    WhenShown<DailyBalancesWindow>([this] {
+      Type("txtDayBal(0)", "7");
+      windows.EndProgram();
+      windows.routes().StartDisclosure();
+    });
+    Click("cmdComputeLADB");
+    returned = true;
+    ASSERT_TRUE(waits) << "the window's handler has come back to it";
+    EXPECT_EQ(waits->findChild<QLineEdit*>("txtLedgerdays")->text(), "2");
+  });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_TRUE(returned);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(waits) << "deleted by the registry alone";
+  for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(Navigation, AScreenReaderHearsCaptionsAsTheyAreNow) {
+  const auto nameOf = [this](const char* control) {
+    return QAccessible::queryAccessibleInterface(Get<QWidget>(control))
+        ->text(QAccessible::Name)
+        .toStdString();
+  };
+  Open<DisclosureSetupWindow>();
+  EXPECT_EQ(nameOf("Label6"), "");
+  const std::string byDays = nameOf("txtDailyCompounding");
+  Choose("optICMonths");
+  QCoreApplication::processEvents();
+  EXPECT_NE(nameOf("txtDailyCompounding"), byDays);
+  EXPECT_EQ(nameOf("txtDailyCompounding"), nameOf("lblDailyCompounding"));
+  Open<StatementEntryWindow>();
+  auto* balances = QAccessible::queryAccessibleInterface(Get<QFrame>("fraLed_Coll"));
+  EXPECT_EQ(balances->role(), QAccessible::Grouping);
+  EXPECT_EQ(nameOf("fraLed_Coll"), "Ledger and collected balances");
 }
 
 TEST_F(Navigation, TheTitleScreenOptionIsKeptInTheSettingsFile) {

@@ -100,6 +100,7 @@ TEST_F(ReportWindows, SaveAsWritesThePageUnderTheFixedName) {
   answer = "my.copy";
   Menu("mnuSave");
   const std::string page = saved();
+  EXPECT_EQ(Caption("lblHint"), "Saved as " + folder.filePath("my.html").toStdString());
   EXPECT_EQ(page.find('\n'), page.size() - 1) << "one line";
   EXPECT_NE(page.find("Bank"), std::string::npos);
   ASSERT_TRUE(file.resize(0));

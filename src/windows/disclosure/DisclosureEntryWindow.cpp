@@ -4,20 +4,15 @@
 
 #include "disclosure/DisclosureCalculation.h"
 #include "disclosure/EntryChecks.h"
-#include "disclosure/EntryContext.h"
-#include "disclosure/EntryLayout.h"
-#include "disclosure/EntryOverview.h"
 #include "disclosure/EntrySequence.h"
 #include "disclosure/EntrySlips.h"
 #include "disclosure/EntryTerm.h"
-#include "disclosure/NextStep.h"
 #include "platform/Pictures.h"
 #include "support/Clock.h"
 #include "ui_DisclosureEntryWindow.h"
-#include "windows/frame/CalendarPopup.h"
-#include "windows/frame/ContextLine.h"
-#include "windows/frame/DateCount.h"
-#include "windows/frame/EntryList.h"
+#include "windows/disclosure/EntryParts.h"
+#include "windows/disclosure/EntrySurroundings.h"
+#include "windows/frame/DateRange.h"
 #include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -40,29 +35,18 @@ DisclosureEntryWindow::DisclosureEntryWindow(WindowRegistry& registry)
     : Form(registry, Role::Main), ui_(std::make_unique<Ui::DisclosureEntryWindow>()) {
   ui_->setupUi(this);
   NameArrayElements();
-  dateCount_ = new DateCount(ui_->tStartDate);
-  binding_ = std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] {
-    EnableCalendars();
-    dateCount_->Show(TermDatesText(session().disclosure.setup, entry_));
-    ShowTier();
-  });
+  dates_ = std::make_unique<DateRange>(*this, registry, ui_->tStartDate, ui_->tEndDate);
+  binding_ =
+      std::make_unique<FieldBinding<DisclosureEntry>>(*this, entry_, [this] { ShowTyped(); });
   BindFields();
   BindButtons();
 }
 
 DisclosureEntryWindow::~DisclosureEntryWindow() = default;
 
-void DisclosureEntryWindow::BuildPlace() {
-  account_ = AddContextLine("lblContext");
-  tier_ = AddContextLine("lblTierContext");
-  entries_ = new EntryList(this);
-  entries_->PlaceIn(*this);
-  connect(entries_, &EntryList::GoBackTo, this, [this](int entry) { GoBackTo(entry); });
-}
-
 void DisclosureEntryWindow::resizeEvent(QResizeEvent* event) {
   Form::resizeEvent(event);
-  entries_->PlaceIn(*this);
+  surroundings_->Place();
 }
 
 void DisclosureEntryWindow::BindFields() {
@@ -70,10 +54,7 @@ void DisclosureEntryWindow::BindFields() {
     SelectTextOnFocus(findChild<QLineEdit*>(name.control));
   }
   FitToDigits(*ui_->txtDailyRateFactor, FieldLength::kFactor);
-  for (const auto& [control, decimals, kind] : DisclosureEntry::Decimals()) {
-    BindNumeric(findChild<QLineEdit*>(control),
-                {.repairMinus = true, .decimals = decimals, .kind = kind});
-  }
+  BindDecimals(DisclosureEntry::Decimals());
   for (auto* field :
        {ui_->txtBeginMonth, ui_->txtBeginYear, ui_->txtBtwnReqIntWdrwl, ui_->txtWdrwlPeriods}) {
     BindNumeric(field, {});
@@ -82,7 +63,6 @@ void DisclosureEntryWindow::BindFields() {
   BindNumeric(ui_->txtTierPerNum, {.digitsOnly = true});
   RewriteOnLeaving(ui_->txtBal);
   for (QLineEdit* date : {ui_->tStartDate, ui_->tEndDate}) {
-    BindDate(date);
     connect(date, &QLineEdit::textChanged, this, [this] { Date_Change(); });
   }
   for (QLineEdit* field : {ui_->txtDailyRateFactor, ui_->txtBal, ui_->txtIntRateA}) {
@@ -116,7 +96,7 @@ void DisclosureEntryWindow::BindButtons() {
 }
 
 void DisclosureEntryWindow::Form_Load() {
-  BuildPlace();
+  surroundings_ = std::make_unique<EntrySurroundings>(*this, session(), *ui_->cmdBack);
   cmdSetProperties_Click();
 }
 
@@ -131,69 +111,22 @@ void DisclosureEntryWindow::cmdSetProperties_Click() {
   const DisclosureCheck& check = session().disclosure;
   entry_ = PresentEntry(check);
   if (entry_.txtTerm.workedOut) CountTerm(check.setup, entry_);
-  ShowCaptions();
-  ShowGroups();
+  ShowCaptions(*ui_, check);
+  ShowGroups(*ui_, check.setup);
   binding_->Show();
   const bool calculates = !check.setup.IsTiered() && IsLastEntry(check);
   ui_->cmdCalculateResult->setVisible(calculates);
   ui_->cmdNext->setVisible(!calculates);
-  ShowPlace();
+  surroundings_->ShowCheck();
 }
 
-void DisclosureEntryWindow::ShowCaptions() {
-  const EntryCaptions captions = CaptionsFor(session().disclosure);
-  const std::pair<QLabel*, const std::string&> labels[] = {
-      {ui_->lblAcctType, captions.lblAcctType},
-      {ui_->lblMethod, captions.lblMethod},
-      {ui_->lblAcctInfo, captions.lblAcctInfo},
-      {ui_->lblPerMessage, captions.lblPerMessage},
-      {ui_->lblTierPerNum, captions.lblTierPerNum},
-      {ui_->lblDays, captions.lblDays},
-      {ui_->lblReqIntWdrwl, captions.lblReqIntWdrwl},
-      {ui_->lblPeriodNumber, captions.lblPeriodNumber},
-      {ui_->lblHighLowEnd, captions.lblHighLowEnd},
-  };
-  for (const auto& [label, text] : labels) label->setText(QString::fromStdString(text));
-  ui_->frmPeriodNumber->setTitle(QString::fromStdString(captions.frmPeriodNumber));
-  ui_->txtTerm->setToolTip(QString::fromStdString(captions.txtTermTip));
-  ui_->txtBtwnReqIntWdrwl->setToolTip(QString::fromStdString(captions.txtBtwnReqIntWdrwlTip));
-}
-
-void DisclosureEntryWindow::ShowGroups() {
-  const DisclosureSetup& setup = session().disclosure.setup;
-  const EntryGroups groups = GroupsFor(setup);
-  ui_->frmPeriodNumber->setVisible(groups.periodNumber);
-  ui_->frmDateRange->setVisible(groups.dateRange);
-  ui_->frmTermDates->setVisible(groups.termDates);
-  ui_->frmIntWithDrawal->setVisible(groups.withdrawal);
-  ui_->lblMethod->setVisible(setup.IsTiered());
-  ui_->lblPeriodNumber->setVisible(groups.periodNumber);
-  ui_->lblHighLowEnd->setVisible(setup.kind == AccountKind::TierB);
-}
-
-void DisclosureEntryWindow::EnableCalendars() {
-  const bool enabled = TermDatesEnabled(session().disclosure, entry_.txtTerm);
-  entry_.tStartDate.enabled = entry_.tEndDate.enabled = enabled;
-  for (QWidget* control : termDates_) control->setEnabled(enabled);
-}
-
-void DisclosureEntryWindow::ShowPlace() {
+void DisclosureEntryWindow::ShowTyped() {
   const DisclosureCheck& check = session().disclosure;
-  account_->ShowContext(ContextOf(session().header, check.setup));
-  tier_->setVisible(check.setup.IsTiered());
-  entries_->setVisible(HasOverview(check.setup));
-  entries_->ShowEntries(EntryHeading(check), EntriesSoFar(check), CurrentEntry(check));
-  ShowNextStep(NextStepOfEntry(check));
-}
-
-void DisclosureEntryWindow::ShowTier() {
-  const auto [text, warns] = TierContextOf(session().disclosure, entry_.txtBal);
-  tier_->ShowContext(text, warns);
-}
-
-void DisclosureEntryWindow::GoBackTo(int entry) {
-  const int times = CurrentEntry(session().disclosure) - entry;
-  for (int i = 0; i < times; ++i) ui_->cmdBack->click();
+  const bool hasDates = TermDatesEnabled(check, entry_.txtTerm);
+  entry_.tStartDate.enabled = entry_.tEndDate.enabled = hasDates;
+  for (QWidget* control : termDates_) control->setEnabled(hasDates);
+  dates_->ShowCount(TermDatesText(check.setup, entry_));
+  surroundings_->ShowTyped(entry_);
 }
 
 void DisclosureEntryWindow::txtTerm_LostFocus(const QString& next) {
@@ -224,11 +157,9 @@ void DisclosureEntryWindow::Date_Change() {
 }
 
 void DisclosureEntryWindow::ImgCalendar_Click(int index) {
-  QLineEdit* field = index == 0 ? ui_->tStartDate : ui_->tEndDate;
-  const Date from = ParseDate(TextOf(field)).value_or(Today());
-  const auto picked = windows().Get<CalendarPopup>().PickDate(from, CalendarTitle(index == 0));
-  if (!picked) return;
-  SetText(field, FormatDate(*picked));
+  const bool start = index == 0;
+  const Date from = ParseDate(TextOf(dates_->Field(start))).value_or(Today());
+  if (!dates_->Pick(start, from)) return;
   Date_Change();
   if (!ParseDate(entry_.tStartDate.text)) {
     Tell({"Starting Date is invalid, Please correct", "tStartDate"});

@@ -12,9 +12,8 @@ class DisclosureEntryWindow;
 
 namespace corvane {
 
-class DateCount;
-class ContextLine;
-class EntryList;
+class DateRange;
+class EntrySurroundings;
 
 /// The entry window of the disclosure workflow: balance, rate, term or dates, withdrawals and the
 /// disclosed APY of an account, of a stepped period or of a tier.
@@ -32,7 +31,6 @@ class DisclosureEntryWindow : public Form {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void BuildPlace();
   void BindFields();
   void BindButtons();
   void cmdSetProperties_Click();
@@ -44,24 +42,16 @@ class DisclosureEntryWindow : public Form {
   void Attempt();
   void cmdBack_Click();
 
-  void ShowCaptions();
-  void ShowGroups();
-  void EnableCalendars();
-  /// Whose account and which tier it is, and which entries were made.
-  void ShowPlace();
-  void ShowTier();
-  /// Presses Back as often as it takes.
-  void GoBackTo(int entry);
+  /// What follows from the fields as they are now.
+  void ShowTyped();
   void InternalError();
 
   std::unique_ptr<Ui::DisclosureEntryWindow> ui_;
-  ContextLine* account_ = nullptr;
-  ContextLine* tier_ = nullptr;
-  EntryList* entries_ = nullptr;
   DisclosureEntry entry_;  ///< kept by the check when it is completed or left
   std::unique_ptr<FieldBinding<DisclosureEntry>> binding_;
-  DateCount* dateCount_ = nullptr;
-  std::vector<QWidget*> termDates_;  ///< the two dates and their calendars
+  std::unique_ptr<DateRange> dates_;
+  std::unique_ptr<EntrySurroundings> surroundings_;  ///< once the window has loaded
+  std::vector<QWidget*> termDates_;                  ///< the two dates and their calendars
   bool termEdited_ = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "disclosure/EntrySlips.h"
 #include "disclosure/NextStep.h"
 #include "reports/DisclosureReport.h"
 #include "support/Clock.h"
@@ -36,6 +37,7 @@ DisclosureResultsWindow::~DisclosureResultsWindow() = default;
 void DisclosureResultsWindow::Form_Activate() {
   FocusField(ui_->cmdBack);
   ShowNextStep(NextStepOfResults(session().disclosure));
+  if (const auto slip = SlipOfResults(session().disclosure)) ShowHint(*slip);
   BuildReport();
   FocusReport();
 }

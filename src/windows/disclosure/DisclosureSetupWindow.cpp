@@ -26,7 +26,7 @@ DisclosureSetupWindow::DisclosureSetupWindow(WindowRegistry& registry)
       std::make_unique<FieldBinding<DisclosureSetup>>(*this, choices_, [this] { ShowGroups(); });
   BindNumeric(ui_->txtDailyCompounding, {});
   SelectTextOnFocus(ui_->txtDailyCompounding, 3);
-  BindHeader();
+  header_ = std::make_unique<HeaderFields>(*this, session().header);
   NameGroups();
   OnClick(ui_->cmdNext, [this] { cmdNext_Click(); });
   OnClick(ui_->cmdNewAcct, [this] { cmdNewAcct_Click(); });
@@ -39,13 +39,6 @@ DisclosureSetupWindow::DisclosureSetupWindow(WindowRegistry& registry)
 
 DisclosureSetupWindow::~DisclosureSetupWindow() = default;
 
-void DisclosureSetupWindow::BindHeader() {
-  AccountHeader& header = session().header;
-  BindText(ui_->txtName, header.institution);
-  BindText(ui_->txtDepositInst, header.description);
-  BindText(ui_->txtDepositorName, header.holder);
-}
-
 void DisclosureSetupWindow::NameGroups() {
   ui_->lblInterestCompounding->setBuddy(ui_->fraInterestCompunding);
   ui_->lblDaysInYear->setBuddy(ui_->fraDaysInYear);
@@ -55,18 +48,12 @@ void DisclosureSetupWindow::NameGroups() {
 }
 
 void DisclosureSetupWindow::Form_Load() {
-  ShowHeader();
+  header_->Show();
   binding_->Show();
 }
 
 void DisclosureSetupWindow::Form_Activate() {
   FocusField(ui_->txtName);
-}
-
-void DisclosureSetupWindow::ShowHeader() {
-  SetText(ui_->txtName, session().header.institution);
-  SetText(ui_->txtDepositInst, session().header.description);
-  SetText(ui_->txtDepositorName, session().header.holder);
 }
 
 void DisclosureSetupWindow::ShowGroups() {

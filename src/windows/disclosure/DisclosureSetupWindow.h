@@ -5,6 +5,7 @@
 #include "disclosure/DisclosureSetup.h"
 #include "windows/frame/FieldBinding.h"
 #include "windows/frame/Form.h"
+#include "windows/frame/HeaderFields.h"
 
 namespace Ui {
 class DisclosureSetupWindow;
@@ -24,9 +25,7 @@ class DisclosureSetupWindow : public Form {
   void Form_Activate() override;
 
  private:
-  void BindHeader();
   void NameGroups();
-  void ShowHeader();
   void ShowGroups();
   void cmdNext_Click();
   void cmdNewAcct_Click();
@@ -34,6 +33,7 @@ class DisclosureSetupWindow : public Form {
   std::unique_ptr<Ui::DisclosureSetupWindow> ui_;
   DisclosureSetup choices_;  ///< taken over by Continue
   std::unique_ptr<FieldBinding<DisclosureSetup>> binding_;
+  std::unique_ptr<HeaderFields> header_;
 };
 
 }  // namespace corvane

@@ -11,9 +11,25 @@ QString TextOf(const QWidget& control) {
   return text.isValid() ? text.toString() : control.property("title").toString();
 }
 
-QAccessibleInterface* MakeGroup(const QString& className, QObject* object) {
+/// A sign for the eyes alone, such as a colon that stands in a column of its own.
+class SilentSign : public QAccessibleWidget {
+ public:
+  explicit SilentSign(QLabel* label) : QAccessibleWidget(label, QAccessible::Separator) {}
+
+  QString text(QAccessible::Text) const override { return {}; }
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.invisible = true;
+    return state;
+  }
+};
+
+QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
+  auto* label = qobject_cast<QLabel*>(object);
+  if (label && label->text() == ":") return new SilentSign(label);
   auto* frame = qobject_cast<QFrame*>(object);
-  const bool isGroup = className == "QFrame" && frame &&
+  if (className != "QFrame" || !frame) return nullptr;
+  const bool isGroup = !frame->accessibleName().isEmpty() ||
                        frame->findChild<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
   return isGroup ? new QAccessibleWidget(frame, QAccessible::Grouping) : nullptr;
 }
@@ -33,10 +49,19 @@ Captions::Captions(const QWidget& window) {
   }
   for (auto* button : window.findChildren<QAbstractButton*>()) Add(button, button);
   for (auto* group : window.findChildren<QGroupBox*>()) Add(group, group);
+  Name();
 }
 
 void Captions::Add(const QWidget* caption, QWidget* control) {
-  if (control->accessibleName().isEmpty()) named_.push_back({caption, control, {}});
+  if (!control->accessibleName().isEmpty()) return;
+  named_.push_back({caption, control, {}});
+  caption->parentWidget()->installEventFilter(this);
+}
+
+bool Captions::eventFilter(QObject*, QEvent* event) {
+  // A changed text asks for another layout of what stands beside it, which comes before any input.
+  if (event->type() == QEvent::LayoutRequest) Name();
+  return false;
 }
 
 void Captions::Name() {
@@ -48,8 +73,8 @@ void Captions::Name() {
   }
 }
 
-void MakeOptionGroupsAccessible() {
-  QAccessible::installFactory(MakeGroup);
+void MakeCaptionsAccessible() {
+  QAccessible::installFactory(MakeInterface);
 }
 
 }  // namespace corvane

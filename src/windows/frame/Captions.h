@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include <QString>
+#include <QObject>
 
 class QWidget;
 
@@ -14,15 +14,18 @@ QString CaptionText(QString caption);
 
 /// What a screen reader calls the controls of a window. A field or group of options has the name of
 /// the label that it is the buddy of; a label, button or group box that of its own text. A control
-/// with an accessible name of its own keeps that.
-class Captions {
+/// with an accessible name of its own keeps that. The names follow captions that change, as some do
+/// with what was chosen.
+class Captions : public QObject {
  public:
   explicit Captions(const QWidget& window);
 
-  /// Gives the names anew: some captions follow what was chosen.
-  void Name();
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void Name();
+
   struct Named {
     const QWidget* caption;
     QWidget* control;
@@ -33,7 +36,8 @@ class Captions {
   std::vector<Named> named_;
 };
 
-/// Lets a group of options be one to a screen reader, where its frame would be a mere border.
-void MakeOptionGroupsAccessible();
+/// Lets a frame of options, and one that has a name, be a group to a screen reader, where it would
+/// be a mere border, and a label that is a mere colon be nothing to it.
+void MakeCaptionsAccessible();
 
 }  // namespace corvane

@@ -3,7 +3,7 @@
 #include <QtWidgets>
 
 #include "account/DateEntry.h"
-#include "windows/frame/Form.h"
+#include "windows/frame/FieldText.h"
 #include "windows/frame/PasteFilter.h"
 
 namespace corvane {

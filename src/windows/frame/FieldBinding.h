@@ -7,9 +7,16 @@
 #include <QScopedValueRollback>
 
 #include "account/Field.h"
-#include "windows/frame/Form.h"
+#include "windows/frame/FieldText.h"
 
 namespace corvane {
+
+/// Unselects an option, so that none of its group may be selected.
+inline void ClearOption(QRadioButton* option) {
+  option->setAutoExclusive(false);
+  option->setChecked(false);
+  option->setAutoExclusive(true);
+}
 
 /// Binds the text fields and options of a window to values, by the name tables of their type: what
 /// is typed goes into the values at once, and an option does to them what its choice does. While

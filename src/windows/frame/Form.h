@@ -2,25 +2,25 @@
 
 #include <climits>
 #include <functional>
-#include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
 #include <QMainWindow>
-#include <QPointer>
 
+#include "account/NumericEntry.h"
 #include "account/Refusal.h"
 #include "windows/frame/Captions.h"
+#include "windows/frame/FieldText.h"
+#include "windows/frame/FormFocus.h"
 #include "windows/frame/FormKeys.h"
+#include "windows/frame/NumericFields.h"
 
 class QAbstractButton;
 class QAction;
-class QKeyEvent;
-class QKeySequence;
 class QLineEdit;
 class QPushButton;
-class QRadioButton;
 
 namespace corvane {
 
@@ -30,21 +30,10 @@ class Routes;
 class WindowRegistry;
 struct Session;
 
-/// How a numeric field treats what is typed into it (see NumericEntry.h).
-struct NumericRule {
-  bool repairMinus = false;
-  int decimals = -1;  ///< most decimals allowed, -1 for no limit
-  const char* kind = "";
-  bool enterMovesOn = false;
-  bool digitsOnly = false;
-};
-
 /// The window that all others are built on. It gives a form its life (load once, activation by
-/// navigation, unload) and its entry rules: a field loses the focus exactly once, when the focus
-/// goes to another control of the form or when a button or menu item is about to act, and never
-/// because a message box or another window came in front. An access key acts at once, on the
-/// control that is captioned with it before a menu that is; F10 opens the first menu. Enter presses
-/// the form's button for it, and Escape closes a secondary window as its frame does.
+/// navigation, unload), its wiring, its help and its lines of text. What holds for all forms but is
+/// a subject of its own stands in a part that the form owns: the focus (FormFocus), numeric fields
+/// (NumericFields), keys (FormKeys.h), names for screen readers (Captions).
 class Form : public QMainWindow {
   Q_OBJECT
 
@@ -78,18 +67,8 @@ class Form : public QMainWindow {
 
   /// Puts the focus on a field and selects its text.
   void FocusField(QWidget* field);
-
- signals:
-  void Unloaded();
-
- protected:
-  using Handler = std::function<void()>;
-  /// Takes the object name of the control or menu item that the focus goes to.
-  using LostFocusHandler = std::function<void(const QString& next)>;
-
-  Session& session();
-  Routes& routes();
-  WindowRegistry& windows() { return windows_; }
+  /// Puts the focus on the next control, as Tab does.
+  void MoveOn() { focusNextPrevChild(true); }
 
   /// Says in the line at the foot of the window what to do next.
   void ShowNextStep(const std::string& text);
@@ -98,22 +77,31 @@ class Form : public QMainWindow {
   /// once the form loads, when it is known which part of it scrolls.
   ContextLine* AddContextLine(const char* name);
 
+ signals:
+  void Unloaded();
+
+ protected:
+  using Handler = std::function<void()>;
+
+  Session& session();
+  Routes& routes();
+  WindowRegistry& windows() { return windows_; }
+
   /// The wiring of a form's handlers. A button and a menu item take the focus before they act, and
   /// do not act when the field that loses it holds on to it, nor when the form is not in front.
   void OnClick(QAbstractButton* button, Handler handler);
   /// What Enter presses while no other button has the focus: the first that can be pressed.
   void EnterPresses(const std::vector<QPushButton*>& buttons) { enter_.Choose(buttons); }
   void OnMenu(QAction* item, Handler handler);
-  void OnGotFocus(QWidget* field, Handler handler);
-  void OnLostFocus(QWidget* field, LostFocusHandler handler);
+  void OnLostFocus(QWidget* field, FormFocus::LostHandler handler);
 
   /// Gives the elements of field arrays back the names that they have in the form's file, such as
   /// "txt_bne(3)": the generated code turns their parentheses into underscores.
   void NameArrayElements();
 
-  /// Applies the key filter and, on every change, the minus repair and the decimal limit; the field
-  /// becomes as wide as what it may hold, its text stands at the right.
   void BindNumeric(QLineEdit* field, const NumericRule& rule);
+  /// The fields of these names, with the minus repair.
+  void BindDecimals(std::span<const DecimalLimit> limits);
   /// Takes what is pasted into a numeric field, or says why not.
   virtual void PasteInto(QLineEdit* field, const QString& text);
   /// Selects the first characters of the text, or all of it, when the field gets the focus.
@@ -121,13 +109,8 @@ class Form : public QMainWindow {
   /// Rewrites the field "######0.00" when it loses the focus.
   void RewriteOnLeaving(QLineEdit* field);
 
-  /// Lets a masked date field understand separators and copied dates.
-  void BindDate(QLineEdit* field);
   /// Asks, when the field is left, what its text looks like a slip for; not twice the same.
   void AskOnLeaving(QLineEdit* field, std::function<std::optional<std::string>()> notice);
-
-  /// Keeps a text as it is typed.
-  void BindText(QLineEdit* field, std::string& text);
 
   /// Called by a LostFocus handler that refuses: the focus returns to the field.
   void HoldFocus(QWidget* field);
@@ -141,40 +124,22 @@ class Form : public QMainWindow {
   void BindCommonMenus(int helpContext);
 
   void closeEvent(QCloseEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
 
  private:
-  void BindKeys();
-  void MoveFocus(QWidget* now);
-  void RaiseLostFocus(QWidget* field, const QString& next);
-  bool TakeFocus(QAbstractButton* button);
-  bool CommitFor(QAction* item);
-  void NumericChange(QLineEdit* field, const NumericRule& rule);
-
-  bool PressControl(const QKeySequence& accessKey);
-  bool RefusesKey(QLineEdit* field, const QKeyEvent& press);
-  bool RefusesNumericKey(QLineEdit* field, const QKeyEvent& press, const NumericRule& rule);
+  /// Whether a button or menu item may act; what happened before is over then.
+  bool BeginsToAct();
 
   WindowRegistry& windows_;
   Role role_;
   EnterButton enter_{*this};
+  AccessKeys accessKeys_{*this};
+  NumericFields numeric_{*this};
+  FormFocus focus_;
   std::optional<Captions> captions_;  ///< once the form has its controls
   HintLine& hint_;
   int contextLines_ = 0;
-  QPointer<QWidget> focused_;
-  bool focusHeld_ = false;
-  std::map<const QWidget*, Handler> gotFocus_;
-  std::map<const QWidget*, std::vector<LostFocusHandler>> lostFocus_;
-  std::map<const QObject*, NumericRule> numeric_;
 };
-
-/// Unselects an option, so that none of its group may be selected.
-void ClearOption(QRadioButton* option);
-
-/// Text between the windows and the core, which holds UTF-8.
-std::string TextOf(const QLineEdit* field);
-void SetText(QLineEdit* field, const std::string& text);
 
 }  // namespace corvane

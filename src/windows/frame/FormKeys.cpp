@@ -60,6 +60,42 @@ bool EnterButton::eventFilter(QObject*, QEvent* event) {
   return false;
 }
 
+void AccessKeys::Watch() {
+  for (auto* button : window_.findChildren<QAbstractButton*>()) button->installEventFilter(this);
+  if (auto* bar = window_.findChild<QMenuBar*>()) bar->installEventFilter(this);
+}
+
+bool AccessKeys::Press(const QKeySequence& accessKey) {
+  for (auto* button : window_.findChildren<QAbstractButton*>()) {
+    if (button->shortcut() != accessKey || !CanBePressed(button)) continue;
+    if (button->isCheckable()) button->setFocus(Qt::ShortcutFocusReason);
+    button->click();
+    return true;
+  }
+  return false;
+}
+
+bool AccessKeys::eventFilter(QObject*, QEvent* event) {
+  return event->type() == QEvent::Shortcut && Press(static_cast<QShortcutEvent*>(event)->key());
+}
+
+bool IsEnter(const QKeyEvent& press) {
+  return press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
+}
+
+void LetF10OpenMenus(QMainWindow& window) {
+  auto* bar = window.findChild<QMenuBar*>();
+  if (!bar) return;
+  QObject::connect(new QShortcut(Qt::Key_F10, &window), &QShortcut::activated, bar,
+                   [bar] { bar->setActiveAction(bar->actions().front()); });
+}
+
+void LetEscapeClose(QWidget& window) {
+  auto* escape = new QShortcut(Qt::Key_Escape, &window);
+  escape->setAutoRepeat(false);
+  QObject::connect(escape, &QShortcut::activated, &window, &QWidget::close);
+}
+
 void LetTabEnterAtChosenOptions(const QWidget& window) {
   for (auto* option : window.findChildren<QRadioButton*>()) {
     option->setFocusPolicy(IsEntry(*option) ? Qt::StrongFocus : Qt::ClickFocus);

@@ -1,5 +1,7 @@
 #include "windows/frame/WindowRegistry.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QEventLoop>
 #include <QThread>
@@ -11,7 +13,7 @@
 namespace corvane {
 
 WindowRegistry::WindowRegistry(Session& session) : session_(session) {
-  MakeOptionGroupsAccessible();
+  MakeCaptionsAccessible();
   MakeMonthsAccessible();
 }
 
@@ -60,6 +62,7 @@ void WindowRegistry::PlaceBeforeShowing(Form& form) {
 }
 
 void WindowRegistry::BringToFront(Form& form) {
+  if (ended_) return;
   if (!form.isVisible()) PlaceBeforeShowing(form);
   form.show();
   form.raise();
@@ -69,6 +72,7 @@ void WindowRegistry::BringToFront(Form& form) {
 }
 
 void WindowRegistry::RunModal(Form& form) {
+  if (ended_) return;
   // A window that is on the screen already does not become modal.
   form.hide();
   form.setWindowModality(Qt::ApplicationModal);
@@ -84,14 +88,19 @@ bool WindowRegistry::IsInFront(const Form& form) const {
 }
 
 void WindowRegistry::Close(Form& form) {
+  if (ended_) return;
   std::erase_if(open_, [&form](const Entry& entry) { return entry.form == &form; });
+  Unload(form);
+  // The form may be inside one of its own handlers.
+  form.deleteLater();
+}
+
+void WindowRegistry::Unload(Form& form) {
   form.hide();
   // Keys and clicks that were under way still reach it until it is deleted.
   form.setEnabled(false);
   presses_.WindowChanged();
   emit form.Unloaded();
-  // The form may be inside one of its own handlers.
-  form.deleteLater();
 }
 
 void WindowRegistry::CloseOtherMainWindows(const Form& kept) {
@@ -109,9 +118,10 @@ void WindowRegistry::CloseByFrame(Form& form) {
 }
 
 void WindowRegistry::EndProgram() {
+  if (ended_) return;
   session_.header = {};
-  while (!open_.empty()) Close(*open_.back().form);
   EndProcess();
+  for (auto entry = open_.rbegin(); entry != open_.rend(); ++entry) Unload(*entry->form);
 }
 
 void WindowRegistry::EndProcess() {

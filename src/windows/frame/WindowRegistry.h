@@ -12,8 +12,9 @@
 
 namespace corvane {
 
-/// The program's windows: makes a form on first use, hands it out, brings it to the front and
-/// closes it, and ends the program.
+/// The program's windows: makes a form on first use, hands it out, brings it to the front, closes
+/// it, and ends the program. A form that closes is deleted as soon as its handlers have returned;
+/// forms that are open when the program ends are deleted with the registry.
 class WindowRegistry {
  public:
   explicit WindowRegistry(Session& session);
@@ -40,7 +41,7 @@ class WindowRegistry {
     return *form;
   }
 
-  /// Brings the form to the front and activates it.
+  /// Brings the form to the front and activates it. Once the program has ended it stays hidden.
   template <class AForm>
   AForm& Show() {
     AForm& form = Get<AForm>();
@@ -56,19 +57,21 @@ class WindowRegistry {
 
   /// Whether the form is shown and no modal window stands above it.
   bool IsInFront(const Form& form) const;
-  /// Closes a window without ending the program; it takes no input any more.
+  /// Closes a window without ending the program.
   void Close(Form& form);
   /// Closes every main window but this one, or hides it where it stays.
   void CloseOtherMainWindows(const Form& kept);
   /// The person closed the window by its frame: ends the program, or closes a secondary window.
   void CloseByFrame(Form& form);
-  /// Shows an already made form above all others and returns when it has closed.
+  /// Shows an already made form above all others and returns when it has closed or the program has
+  /// ended.
   void RunModal(Form& form);
-  /// The one orderly way out: clears the identification, closes all windows newest first, ends.
+  /// The one orderly way out: clears the identification, hides all windows newest first, ends. From
+  /// then on no window opens or closes, and no form is deleted before the registry is: a handler
+  /// that waited for another window comes back to a form that is still there.
   void EndProgram();
   /// Ends the process at once, leaving windows as they are.
   void EndProcess();
-  /// Whether the program has ended; a test reads it, for its own process goes on.
   bool HasEnded() const { return ended_; }
 
  private:
@@ -79,6 +82,8 @@ class WindowRegistry {
 
   Form* FindForm(std::type_index type) const;
   void Add(std::type_index type, Form* form);
+  /// Takes the form from the screen; it takes no input any more.
+  void Unload(Form& form);
   /// The main window that is shown; null before the first one.
   const Form* MainWindow() const;
   /// Main windows follow each other as the pages of one window: same place, same size.

@@ -12,6 +12,7 @@
 #include "support/Paths.h"
 #include "ui_PortfolioWindow.h"
 #include "windows/frame/ContextLine.h"
+#include "windows/frame/FieldText.h"
 #include "windows/frame/FileDrop.h"
 #include "windows/frame/WindowRegistry.h"
 

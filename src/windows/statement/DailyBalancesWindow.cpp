@@ -26,6 +26,8 @@ DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& registry)
   setWindowFlag(Qt::Dialog);
   NameArrayElements();
   grid_ = std::make_unique<DayGrid>(*ui_->fraDays, *ui_->days, *ui_->cmdPrint);
+  connect(grid_.get(), &DayGrid::GoesTo, this, &DailyBalancesWindow::GoTo);
+  connect(grid_.get(), &DayGrid::TakesBack, this, &DailyBalancesWindow::mnuUndo_Click);
   BindFields();
   BindCommands();
   EnterPresses({ui_->cmdNext, ui_->cmdContinue});
@@ -60,10 +62,11 @@ void DailyBalancesWindow::BindCommands() {
   });
   OnClick(ui_->cmdPrint, [this] { cmdPrint_Click(); });
   OnMenu(ui_->mnuUndo, [this] { mnuUndo_Click(); });
-  OnMenu(ui_->mnuPaste,
-         [this] { PasteInto(grid_->FieldAt(place_), QGuiApplication::clipboard()->text()); });
-  OnMenu(ui_->mnuCopyBefore, [this] { Fill(CopyDayBefore(grid_->Days(), place_.day)); });
-  OnMenu(ui_->mnuCopyToEnd, [this] { Fill(CopyToEnd(grid_->Days(), place_.day)); });
+  OnMenu(ui_->mnuPaste, [this] {
+    PasteInto(grid_->FieldAt(grid_->Place()), QGuiApplication::clipboard()->text());
+  });
+  OnMenu(ui_->mnuCopyBefore, [this] { Fill(CopyDayBefore(grid_->Days(), grid_->Place().day)); });
+  OnMenu(ui_->mnuCopyToEnd, [this] { Fill(CopyToEnd(grid_->Days(), grid_->Place().day)); });
   OnMenu(ui_->mnuLoad, [this] { mnuLoad_Click(); });
 }
 
@@ -87,22 +90,6 @@ void DailyBalancesWindow::Edit(DailyBalances& daily, std::optional<ComputedDays>
   GoToPage(1);
 }
 
-bool DailyBalancesWindow::eventFilter(QObject* watched, QEvent* event) {
-  const auto place = grid_->PlaceOf(watched);
-  if (place && event->type() == QEvent::FocusIn) place_ = *place;
-  const bool handled = place && event->type() == QEvent::KeyPress &&
-                       HandlesKey(*place, *static_cast<QKeyEvent*>(event));
-  return handled || Form::eventFilter(watched, event);
-}
-
-bool DailyBalancesWindow::HandlesKey(const DayPlace& place, const QKeyEvent& press) {
-  if (press.matches(QKeySequence::Undo) && !grid_->IsTyping(place)) return mnuUndo_Click(), true;
-  const int days = DaysMoved(press);
-  const bool isBefore = place.day == 0 && days < 0;
-  if (days != 0 && !isBefore) GoTo({place.day + static_cast<std::size_t>(days), place.isRate});
-  return days != 0;
-}
-
 void DailyBalancesWindow::GoTo(const DayPlace& place) {
   if (place.day >= grid_->Days().days.size()) return FocusField(ui_->cmdContinue);
   const int page = PageOf(place.day);
@@ -115,14 +102,14 @@ void DailyBalancesWindow::GoTo(const DayPlace& place) {
 void DailyBalancesWindow::PasteInto(QLineEdit* field, const QString& text) {
   if (!IsTable(text.toStdString())) return Form::PasteInto(field, text);
   FocusField(field);
-  Fill(PasteDays(grid_->Days(), place_, text.toStdString()));
+  Fill(PasteDays(grid_->Days(), grid_->Place(), text.toStdString()));
 }
 
 void DailyBalancesWindow::mnuUndo_Click() {
   // A field that shows other days must not take them for what was typed.
   FocusField(ui_->cmdContinue);
   const auto changed = grid_->TakeBack();
-  const std::size_t day = changed.value_or(place_.day);
+  const std::size_t day = changed.value_or(grid_->Place().day);
   ShowPage(PageOf(day));
   FocusField(grid_->FieldAt({day}));
   if (changed) ShowHint("Taken back.");
@@ -133,7 +120,7 @@ void DailyBalancesWindow::mnuLoad_Click() {
   if (!path) return;
   const auto text = ReadWholeFile(path->toStdString());
   if (const auto* error = std::get_if<FileError>(&text)) {
-    return Tell({"The file cannot be read: " + error->reason, FieldAt(place_)});
+    return Tell({"The file cannot be read: " + error->reason, FieldAt(grid_->Place())});
   }
   Fill(LoadDays(grid_->Days(), std::get<std::string>(text)));
 }
@@ -143,7 +130,7 @@ void DailyBalancesWindow::Fill(const std::variant<DailyBalances, Refusal>& days)
   const std::string change = ChangeText(grid_->Days(), std::get<DailyBalances>(days));
   grid_->Take(std::get<DailyBalances>(days));
   ShowPage(grid_->Page());
-  FocusField(grid_->FieldAt(place_));
+  FocusField(grid_->FieldAt(grid_->Place()));
   if (!change.empty()) ShowHint(change);
 }
 

@@ -31,7 +31,6 @@ class DailyBalancesWindow : public Form {
   void Edit(DailyBalances& daily, std::optional<ComputedDays>& computed);
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
   /// A copied table fills the days from the field's on.
   void PasteInto(QLineEdit* field, const QString& text) override;
 
@@ -44,7 +43,6 @@ class DailyBalancesWindow : public Form {
   void mnuUndo_Click();
   void mnuLoad_Click();
 
-  bool HandlesKey(const DayPlace& place, const QKeyEvent& press);
   /// Goes on to a day's field of the same column; behind the last day to Compute ADB.
   void GoTo(const DayPlace& place);
 
@@ -62,7 +60,6 @@ class DailyBalancesWindow : public Form {
   ContextLine* account_ = nullptr;
   std::unique_ptr<DayGrid> grid_;
   std::optional<ComputedDays>* computed_ = nullptr;
-  DayPlace place_;  ///< of the field that has or last had the focus
 };
 
 }  // namespace corvane

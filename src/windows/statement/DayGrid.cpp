@@ -2,7 +2,7 @@
 
 #include <QtWidgets>
 
-#include "windows/frame/Form.h"
+#include "windows/frame/FieldText.h"
 
 namespace corvane {
 
@@ -25,6 +25,21 @@ void KeepReadable(QLineEdit* field) {
   palette.setBrush(QPalette::Disabled, QPalette::Text,
                    palette.brush(QPalette::Active, QPalette::Text));
   field->setPalette(palette);
+}
+
+/// How many days a key goes on (1) or back (-1); 0 for any other key.
+int DaysMoved(const QKeyEvent& press) {
+  if (press.modifiers() & ~Qt::KeypadModifier) return 0;
+  switch (press.key()) {
+    case Qt::Key_Down:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return 1;
+    case Qt::Key_Up:
+      return -1;
+    default:
+      return 0;
+  }
 }
 
 }  // namespace
@@ -50,6 +65,7 @@ DayGrid::Row DayGrid::MakeRow(QFrame& frame, int index) {
   row.label->setMinimumWidth(row.label->fontMetrics().horizontalAdvance("May 00"));
   const int line = 1 + index % kRowsPerColumn;
   const int column = kGridColumns * (index / kRowsPerColumn);
+  for (QLineEdit* field : {row.balance, row.rate}) field->installEventFilter(this);
   layout_.addWidget(row.label, line, column);
   layout_.addWidget(row.balance, line, column + 1);
   layout_.addWidget(row.rate, line, column + 2);
@@ -139,18 +155,23 @@ bool DayGrid::IsTyping(const DayPlace& place) const {
   return field->isUndoAvailable() && TextOf(field) != (place.isRate ? rate : balance);
 }
 
-int DaysMoved(const QKeyEvent& press) {
-  if (press.modifiers() & ~Qt::KeypadModifier) return 0;
-  switch (press.key()) {
-    case Qt::Key_Down:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return 1;
-    case Qt::Key_Up:
-      return -1;
-    default:
-      return 0;
+bool DayGrid::eventFilter(QObject* watched, QEvent* event) {
+  const auto place = PlaceOf(watched);
+  if (place && event->type() == QEvent::FocusIn) place_ = *place;
+  return place && event->type() == QEvent::KeyPress &&
+         HandlesKey(*place, *static_cast<QKeyEvent*>(event));
+}
+
+bool DayGrid::HandlesKey(const DayPlace& place, const QKeyEvent& press) {
+  if (press.matches(QKeySequence::Undo) && !IsTyping(place)) {
+    emit TakesBack();
+    return true;
   }
+  const int days = DaysMoved(press);
+  const bool isBefore = place.day == 0 && days < 0;
+  if (days != 0 && !isBefore)
+    emit GoesTo({place.day + static_cast<std::size_t>(days), place.isRate});
+  return days != 0;
 }
 
 }  // namespace corvane

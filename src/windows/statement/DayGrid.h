@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include <QObject>
+
 #include "statement/DayHistory.h"
 
 class QFrame;
@@ -9,14 +11,15 @@ class QGridLayout;
 class QLabel;
 class QKeyEvent;
 class QLineEdit;
-class QObject;
 class QWidget;
 
 namespace corvane {
 
 /// The days that the window works on, and the fields of one page of them, in three columns below
-/// headings that the window's file has.
-class DayGrid {
+/// headings that the window's file has. The keys of a list move from day to day.
+class DayGrid : public QObject {
+  Q_OBJECT
+
  public:
   struct Row {
     QLabel* label;
@@ -35,6 +38,8 @@ class DayGrid {
   QLineEdit* FieldAt(const DayPlace& place) const;
   /// The place of a field of the page; nothing for any other object.
   std::optional<DayPlace> PlaceOf(const QObject* field) const;
+  /// The place of the field that has or last had the focus.
+  const DayPlace& Place() const { return place_; }
 
   /// The days to work on, which have to outlive the grid's use.
   void Edit(DailyBalances& daily) { daily_ = &daily; }
@@ -54,10 +59,20 @@ class DayGrid {
   void TakePage();
   /// Takes the latest change back: its first day, or nothing where there is none.
   std::optional<std::size_t> TakeBack();
-  /// Whether a field holds something else than its day: then what is typed is its own to take back.
-  bool IsTyping(const DayPlace& place) const;
+
+ signals:
+  /// A key goes on to the field of another day, which may be on another page or behind the last.
+  void GoesTo(const DayPlace& place);
+  /// The key that takes back, where the field has nothing of its own to take back.
+  void TakesBack();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool HandlesKey(const DayPlace& place, const QKeyEvent& press);
+  /// Whether a field holds something else than its day: then what is typed is its own to take back.
+  bool IsTyping(const DayPlace& place) const;
   Row MakeRow(QFrame& frame, int index);
   void ShowRow(std::size_t row);
   std::size_t FirstDay() const { return kDaysPerPage * static_cast<std::size_t>(page_ - 1); }
@@ -67,10 +82,8 @@ class DayGrid {
   std::array<Row, kDaysPerPage> rows_{};
   DailyBalances* daily_ = nullptr;
   DayHistory history_;
+  DayPlace place_;
   int page_ = 1;
 };
-
-/// How many days a key goes on (1) or back (-1); 0 for any other key.
-int DaysMoved(const QKeyEvent& press);
 
 }  // namespace corvane

@@ -7,9 +7,8 @@
 #include "statement/StatementContext.h"
 #include "support/Clock.h"
 #include "ui_StatementEntryWindow.h"
-#include "windows/frame/CalendarPopup.h"
 #include "windows/frame/ContextLine.h"
-#include "windows/frame/DateCount.h"
+#include "windows/frame/DateRange.h"
 #include "windows/frame/PageLayout.h"
 #include "windows/frame/WindowRegistry.h"
 
@@ -26,7 +25,7 @@ StatementEntryWindow::StatementEntryWindow(WindowRegistry& registry)
   ui_->setupUi(this);
   binding_ = std::make_unique<FieldBinding<StatementEntry>>(
       *this, Entry(), [this] { ShowGroups(); }, [this] { FollowChanges(session().statement); });
-  dateCount_ = new DateCount(ui_->txtDateStart);
+  dates_ = std::make_unique<DateRange>(*this, registry, ui_->txtDateStart, ui_->txtDateEnd);
   BindFields();
   BindButtons();
 }
@@ -46,16 +45,12 @@ void StatementEntryWindow::BindFields() {
     RewriteOnLeaving(field);
   }
   FitToDigits(*ui_->txtDRFactor, FieldLength::kFactor);
-  for (const auto& [control, decimals, kind] : StatementEntry::Decimals()) {
-    BindNumeric(findChild<QLineEdit*>(control),
-                {.repairMinus = true, .decimals = decimals, .kind = kind});
-  }
+  BindDecimals(StatementEntry::Decimals());
   RewriteOnLeaving(ui_->txtIntAmt);
   for (QLineEdit* days : {ui_->txtLedgerdays, ui_->txtColDays}) {
     BindNumeric(days, {.enterMovesOn = true});
     OnLostFocus(days, [this](const QString& next) { Days_LostFocus(next); });
   }
-  for (QLineEdit* date : {ui_->txtDateStart, ui_->txtDateEnd}) BindDate(date);
   AskOnLeaving(ui_->txtDRFactor, [this] { return FactorNotice(Entry().txtDRFactor.text); });
   connect(ui_->txtDRFactor, &QLineEdit::textChanged, this, [this] { txtDRFactor_Change(); });
 }
@@ -92,7 +87,7 @@ void StatementEntryWindow::Form_Activate() {
 
 void StatementEntryWindow::ShowGroups() {
   const StatementEntry& entry = Entry();
-  dateCount_->Show(PeriodDatesText(session().statement.setup.year, entry));
+  dates_->ShowCount(PeriodDatesText(session().statement.setup.year, entry));
   ui_->fraIntCalcMethod->setEnabled(!LocksMethod(session().statement.setup));
   ui_->Frame4->setEnabled(entry.basis != BalanceBasis::Equal);
   ui_->cmdComputeLADB->setEnabled(entry.txtADBLedgerBalance.enabled);
@@ -125,19 +120,14 @@ void StatementEntryWindow::Days_LostFocus(const QString& next) {
   });
 }
 
-bool StatementEntryWindow::PickDate(QLineEdit* field, const Date& from, const QString& title) {
-  const auto picked = windows().Get<CalendarPopup>().PickDate(from, title);
-  if (picked) SetText(field, FormatDate(*picked));
-  // A calendar that is closed without a day keeps the date that there was.
-  return TextOf(field) != kEmptyDateMask;
+bool StatementEntryWindow::AskDate(bool start, const Date& from) {
+  return dates_->Pick(start, from) || TextOf(dates_->Field(start)) != kEmptyDateMask;
 }
 
 void StatementEntryWindow::ImgCalendar_Click() {
   const DatesToAsk ask = DatesForCalendar(Entry());
-  const Date start = PeriodStart(Entry(), Today());
-  if (ask.start && !PickDate(ui_->txtDateStart, start, CalendarTitle(true))) return;
-  const Date end = CalendarOfEnd(Entry(), Today());
-  if (ask.end && !PickDate(ui_->txtDateEnd, end, CalendarTitle(false))) return;
+  if (ask.start && !AskDate(true, PeriodStart(Entry(), Today()))) return;
+  if (ask.end && !AskDate(false, CalendarOfEnd(Entry(), Today()))) return;
   const auto refusal = CountPeriod(session().statement.setup.year, Entry(), PeriodCaller::Calendar);
   binding_->Show();
   if (refusal) Tell(*refusal);

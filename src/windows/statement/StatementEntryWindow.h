@@ -12,8 +12,8 @@ class StatementEntryWindow;
 
 namespace corvane {
 
-class DateCount;
 class ContextLine;
+class DateRange;
 
 /// The statement period: dates or days, rate, minimums, balances and the interest that the
 /// statement shows.
@@ -38,13 +38,14 @@ class StatementEntryWindow : public Form {
   void Compute_Click(BalanceColumn column);
   void cmdCalculate_Click();
 
-  bool PickDate(QLineEdit* field, const Date& from, const QString& title);
+  /// Asks for a date by the calendar; whether there is one then.
+  bool AskDate(bool start, const Date& from);
   bool Passes(const CheckOutcome& outcome);
 
   std::unique_ptr<Ui::StatementEntryWindow> ui_;
   ContextLine* account_ = nullptr;
   std::unique_ptr<FieldBinding<StatementEntry>> binding_;
-  DateCount* dateCount_ = nullptr;
+  std::unique_ptr<DateRange> dates_;
 };
 
 }  // namespace corvane

@@ -41,6 +41,7 @@ void StatementResultsWindow::Form_Load() {
 
 void StatementResultsWindow::Form_Activate() {
   FocusField(ui_->cmdBack);
+  if (const auto slip = SlipOfResults(session().statement)) ShowHint(*slip);
   BuildReport();
   FocusReport();
 }

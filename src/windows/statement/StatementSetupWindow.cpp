@@ -20,6 +20,7 @@ StatementSetupWindow::StatementSetupWindow(WindowRegistry& registry)
   ui_->setupUi(this);
   binding_ =
       std::make_unique<FieldBinding<StatementSetup>>(*this, choices_, [this] { ShowGroups(); });
+  header_ = std::make_unique<HeaderFields>(*this, session().header);
   BindFields();
   OnClick(ui_->cmdNext, [this] { cmdNext_Click(); });
   OnClick(ui_->cmdNewAcct, [this] { cmdNewAcct_Click(); });
@@ -33,11 +34,6 @@ StatementSetupWindow::StatementSetupWindow(WindowRegistry& registry)
 StatementSetupWindow::~StatementSetupWindow() = default;
 
 void StatementSetupWindow::BindFields() {
-  AccountHeader& header = session().header;
-  BindText(ui_->txtName, header.institution);
-  BindText(ui_->txtDepositInst, header.description);
-  BindText(ui_->txtDepositorName, header.holder);
-  BindText(ui_->txtAcctNum, header.number);
   for (QLineEdit* field :
        {ui_->txtName, ui_->txtDepositInst, ui_->txtDepositorName, ui_->txtAcctNum}) {
     SelectTextOnFocus(field);
@@ -49,20 +45,12 @@ void StatementSetupWindow::BindFields() {
 }
 
 void StatementSetupWindow::Form_Load() {
-  ShowHeader();
+  header_->Show();
   binding_->Show();
 }
 
 void StatementSetupWindow::Form_Activate() {
   FocusField(ui_->txtName);
-}
-
-void StatementSetupWindow::ShowHeader() {
-  const AccountHeader header = session().header;
-  SetText(ui_->txtName, header.institution);
-  SetText(ui_->txtDepositInst, header.description);
-  SetText(ui_->txtDepositorName, header.holder);
-  SetText(ui_->txtAcctNum, header.number);
 }
 
 void StatementSetupWindow::ShowGroups() {
@@ -86,7 +74,7 @@ void StatementSetupWindow::cmdNext_Click() {
 void StatementSetupWindow::cmdNewAcct_Click() {
   session().header = session().header.OfNextAccount();
   session().statement = NewStatementCheck();
-  ShowHeader();
+  header_->Show();
   FocusField(ui_->txtName);
 }
 

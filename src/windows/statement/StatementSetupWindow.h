@@ -5,6 +5,7 @@
 #include "statement/StatementSetup.h"
 #include "windows/frame/FieldBinding.h"
 #include "windows/frame/Form.h"
+#include "windows/frame/HeaderFields.h"
 
 namespace Ui {
 class StatementSetupWindow;
@@ -25,7 +26,6 @@ class StatementSetupWindow : public Form {
 
  private:
   void BindFields();
-  void ShowHeader();
   void ShowGroups();
   void cmdNext_Click();
   void cmdNewAcct_Click();
@@ -33,6 +33,7 @@ class StatementSetupWindow : public Form {
   std::unique_ptr<Ui::StatementSetupWindow> ui_;
   StatementSetup choices_;  ///< taken over by Continue
   std::unique_ptr<FieldBinding<StatementSetup>> binding_;
+  std::unique_ptr<HeaderFields> header_;
 };
 
 }  // namespace corvane

@@ -1,0 +1,100 @@
+#include "Checks.h"
+
+#include <QtWidgets>
+
+#include "disclosure/DisclosureCalculation.h"
+#include "platform/ProgramFolder.h"
+#include "reports/DisclosureReport.h"
+#include "reports/StatementReport.h"
+#include "support/Clock.h"
+#include "support/WholeFile.h"
+#include "windows/disclosure/DisclosureEntryWindow.h"
+#include "windows/disclosure/DisclosureResultsWindow.h"
+#include "windows/statement/StatementEntryWindow.h"
+#include "windows/statement/StatementResultsWindow.h"
+
+namespace corvane {
+
+namespace {
+
+bool AnyWindowShows() {
+  const auto windows = QApplication::topLevelWidgets();
+  return std::any_of(windows.begin(), windows.end(),
+                     [](const QWidget* window) { return window->isVisible(); });
+}
+
+/// A field that does not show must hold nothing that could be computed or printed.
+std::string StaleField(const Form* window) {
+  if (!window || !window->isVisible()) return {};
+  for (const QLineEdit* field : window->findChildren<QLineEdit*>()) {
+    const std::string text = TextOf(field);
+    const bool empty = text.empty() || text == kEmptyDateMask;
+    if (!field->isVisibleTo(window) && !empty) {
+      return "hidden " + field->objectName().toStdString() + " holds " + text;
+    }
+  }
+  return {};
+}
+
+/// The report on the disk, which the browser shows, is that of the account in the session.
+std::string ForeignReport(const ReportNames& names, const ReportContent& content,
+                          const Session& session) {
+  const auto file = ReadWholeFile(session.dataFolder / names.outputName);
+  const auto source = ReadWholeFile(ProgramFolder() / names.templateName);
+  const auto* written = std::get_if<std::string>(&file);
+  const auto* form = std::get_if<std::string>(&source);
+  if (!written || !form) return "no report beside the results";
+  const std::string own = corvane::TextOf(FillTemplate(LinesOf(*form), content).lines);
+  return *written == own ? "" : "the report is not that of the account";
+}
+
+/// The figures shown are those that the entries give.
+std::string ForeignResult(const DisclosureCheck& check) {
+  DisclosureCheck again = check;
+  again.result.reset();
+  again.completed = 0;
+  for (int i = 0; i < check.completed; ++i) {
+    DisclosureEntry entry = check.entries.at(static_cast<std::size_t>(i));
+    if (AttemptCalculation(again, entry).refusal) return "the entries of the result are refused";
+  }
+  if (!again.result || !check.result) return "no result";
+  const auto& one = again.result->rows;
+  const auto& other = check.result->rows;
+  const bool same =
+      std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                 [](const ResultRow& a, const ResultRow& b) {
+                   return a.interest == b.interest && a.apy == b.apy && a.verdict == b.verdict;
+                 });
+  return same ? "" : "the result is not that of the entries";
+}
+
+template <class Window>
+bool Shows(const WindowRegistry& windows) {
+  const Window* window = windows.Find<Window>();
+  return window && window->isVisible();
+}
+
+std::string WrongReport(const WindowRegistry& windows, const Session& session) {
+  if (Shows<DisclosureResultsWindow>(windows)) {
+    if (std::string fault = ForeignResult(session.disclosure); !fault.empty()) return fault;
+    return ForeignReport(kDisclosureReport,
+                         DisclosureReport(session.header, session.disclosure, Today()), session);
+  }
+  if (Shows<StatementResultsWindow>(windows)) {
+    return ForeignReport(kStatementReport,
+                         StatementReport(session.header, session.statement, Today()), session);
+  }
+  return {};
+}
+
+}  // namespace
+
+std::string FaultOf(const WindowRegistry& windows, const Session& session) {
+  if (windows.HasEnded()) return {};
+  if (!AnyWindowShows()) return "no window shows, but the program has not ended";
+  if (auto fault = StaleField(windows.Find<DisclosureEntryWindow>()); !fault.empty()) return fault;
+  if (auto fault = StaleField(windows.Find<StatementEntryWindow>()); !fault.empty()) return fault;
+  return WrongReport(windows, session);
+}
+
+}  // namespace corvane

@@ -1,0 +1,155 @@
+#include "Run.h"
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <thread>
+#include <utility>
+
+#include <unistd.h>
+#include <QElapsedTimer>
+#include <QThread>
+#include <QTimer>
+
+#include "Checks.h"
+#include "Person.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr qint64 kLongestAct = 1000;  // milliseconds
+constexpr long kMostGrowth = 40;      // MiB in a thousand acts, once all has been used once
+constexpr std::size_t kActsBetweenWeighing = 1000;
+
+long ResidentMiB() {
+  long pages = 0;
+  std::ifstream("/proc/self/statm") >> pages >> pages;
+  return pages * sysconf(_SC_PAGESIZE) / (1024 * 1024);
+}
+
+struct Timed {
+  qint64 milliseconds;
+  std::size_t act;
+};
+
+class Runner {
+ public:
+  explicit Runner(const std::vector<Act>& acts) : acts_(acts) {}
+
+  int Run() {
+    const std::jthread watch([this](const std::stop_token& stop) { Watch(stop); });
+    while (next_ < acts_.size() && fault_.empty()) RunProgram();
+    return Result();
+  }
+
+ private:
+  /// From the first window to the end of the program.
+  void RunProgram() {
+    Session session;
+    WindowRegistry windows(session);
+    Person person(windows);
+    session_ = &session;
+    windows_ = &windows;
+    person_ = &person;
+    windows.routes().ShowDisclaimer();
+    QTimer::singleShot(0, qApp, [this] { Step(); });
+    QApplication::exec();
+    windows_ = nullptr;
+  }
+
+  /// An act may open a window that keeps its own loop of events: the next act is then done there.
+  void Step() {
+    if (!windows_ || windows_->HasEnded()) return;
+    // A simulated key lets events through while its act is under way.
+    const int loops = QThread::currentThread()->loopLevel();
+    if (loops == actingIn_) return QTimer::singleShot(0, qApp, [this] { Step(); });
+    Check();
+    // At once, whatever windows are open.
+    if (next_ >= acts_.size() || !fault_.empty()) std::_Exit(Result());
+    QTimer::singleShot(0, qApp, [this] { Step(); });
+    if (PutAwayDialog()) return;
+    const std::size_t act = next_++;
+    clock_.start();
+    started_ = act;
+    const int before = std::exchange(actingIn_, loops);
+    person_->Do(acts_[act]);
+    actingIn_ = before;
+    Finished(act);
+  }
+
+  void Check() {
+    Finished(started_);
+    if (fault_.empty()) fault_ = FaultOf(*windows_, *session_);
+    if (next_ % kActsBetweenWeighing == 0 && next_ != weighed_) Weigh();
+  }
+
+  void Finished(std::size_t act) {
+    if (act != started_ || !clock_.isValid()) return;
+    const bool waited = acts_[act].deed == Deed::Wait;
+    if (!waited) slowest_.push_back({clock_.elapsed(), act});
+    if (!waited && clock_.elapsed() > kLongestAct) {
+      fault_ = "held the windows for " + std::to_string(clock_.elapsed()) + " ms";
+    }
+    clock_.invalidate();
+    std::sort(slowest_.begin(), slowest_.end(),
+              [](const Timed& a, const Timed& b) { return a.milliseconds > b.milliseconds; });
+    if (slowest_.size() > 10) slowest_.resize(10);
+  }
+
+  void Weigh() {
+    weighed_ = next_;
+    const long now = ResidentMiB();
+    if (next_ > 2 * kActsBetweenWeighing && now - memory_ > kMostGrowth) {
+      fault_ =
+          "memory grew from " + std::to_string(memory_) + " to " + std::to_string(now) + " MiB";
+    }
+    memory_ = now;
+    std::cout << next_ << " acts, " << now << " MiB" << std::endl;
+  }
+
+  /// An act that never comes back is told too.
+  void Watch(const std::stop_token& stop) const {
+    std::size_t seen = 0;
+    for (int stuck = 0; !stop.stop_requested();
+         std::this_thread::sleep_for(std::chrono::seconds(1))) {
+      stuck = seen == next_ ? stuck + 1 : 0;
+      seen = next_;
+      if (stuck < 15) continue;
+      std::cerr << "act " << seen << ": never came back" << std::endl;
+      _exit(1);
+    }
+  }
+
+  int Result() const {
+    if (!fault_.empty()) std::cerr << "act " << next_ << ": " << fault_ << std::endl;
+    for (const Timed& timed : slowest_) {
+      std::cout << timed.milliseconds << " ms: " << TextOf(acts_[timed.act]) << std::endl;
+    }
+    return fault_.empty() ? 0 : 1;
+  }
+
+  const std::vector<Act>& acts_;
+  std::atomic<std::size_t> next_ = 0;
+  std::size_t started_ = 0;
+  std::size_t weighed_ = 0;
+  int actingIn_ = -1;  ///< the loop of events that an act was begun in
+  long memory_ = 0;
+  std::string fault_;
+  QElapsedTimer clock_;
+  std::vector<Timed> slowest_;
+  Session* session_ = nullptr;
+  WindowRegistry* windows_ = nullptr;
+  Person* person_ = nullptr;
+};
+
+}  // namespace
+
+int Run(const std::vector<Act>& acts) {
+  return Runner(acts).Run();
+}
+
+}  // namespace corvane
