@@ -30,6 +30,17 @@ class PortfolioWindowTest : public WindowTest {
     return InFront<PortfolioWindow>();
   }
 
+  void Drop(QWidget& window, const std::vector<std::filesystem::path>& paths) {
+    QMimeData files;
+    QList<QUrl> urls;
+    for (const auto& path : paths)
+      urls << QUrl::fromLocalFile(QString::fromStdString(path.string()));
+    files.setUrls(urls);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
+    QApplication::sendEvent(&window, &drop);
+    EXPECT_TRUE(drop.isAccepted());
+  }
+
   const TemporaryFolder folder_;
 };
 
@@ -105,22 +116,27 @@ TEST_F(PortfolioWindowTest, AReadingThatIsCancelledKeepsWhatItHasAndOneThatIsLef
   EXPECT_TRUE(windows.HasEnded());
 }
 
-TEST_F(PortfolioWindowTest, FilesThatAreDroppedOntoTheMainMenuAreToldApart) {
+TEST_F(PortfolioWindowTest, FilesThatAreDroppedAreToldApart) {
   const auto accounts = folder_.Path() / "statements.csv", days = folder_.Path() / "days.csv";
   std::ofstream(accounts) << "account,check,disclosed_apy,rate,start_date,end_date,method,"
                              "minimum_adb,minimum_daily\n"
-                             "S,statement,3.04,3,2024-01-01,2024-01-03,adb,0,0\n";
+                             "S,statement,3.00,3,2024-01-01,2024-01-03,adb,0,0\n";
   std::ofstream(days) << "account,date,balance\nS,2024-01-01,1000\nS,2024-01-02,1000\n";
   windows.Show<MainMenu>();
-  auto& menu = InFront<MainMenu>();
-  QMimeData files;
-  files.setUrls({QUrl::fromLocalFile(QString::fromStdString(days.string())),
-                 QUrl::fromLocalFile(QString::fromStdString(accounts.string()))});
-  QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
-  QApplication::sendEvent(&menu, &drop);
-  EXPECT_TRUE(drop.isAccepted());
+  Expect({.text = "The file has statements without an average balance.\nDo you want to choose the "
+                  "file of their daily balances?",
+          .title = "Check a File",
+          .icon = MessageIcon::None,
+          .answer = QMessageBox::No});
+  Drop(InFront<MainMenu>(), {accounts});
   auto& window = InFront<PortfolioWindow>();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !window.IsReading(); }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !window.IsReading() && boxes.empty(); }));
+  EXPECT_EQ(Caption("lblCounts"), "1 accounts: 0 OK, 0 violations, 1 refused.");
+  Drop(window, {days});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Caption("lblFile").ends_with("days.csv"); }));
+  Drop(window, {days, accounts});
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return Caption("lblCounts").find("1 OK") != std::string::npos; }));
   EXPECT_EQ(Caption("lblFile"), accounts.string() + ", daily balances: days.csv");
   EXPECT_EQ(Caption("lblCounts"), "1 accounts: 1 OK, 0 violations, 0 refused.");
 }

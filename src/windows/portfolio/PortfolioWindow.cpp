@@ -62,6 +62,10 @@ PortfolioWindow::~PortfolioWindow() = default;
 
 void PortfolioWindow::BindTable() {
   ui_->tblResults->setModel(&model_);
+  connect(ui_->tblResults->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+          [this](const QModelIndex& row) {
+            current_ = row.isValid() ? &model_.RowAt(row.row()) : nullptr;
+          });
   connect(ui_->tblResults->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
           [this] { FindShown(); });
   connect(ui_->tblResults, &QTableView::doubleClicked, ui_->cmdOpen, &QPushButton::click);
@@ -109,6 +113,7 @@ void PortfolioWindow::CheckFiles(const std::vector<std::filesystem::path>& files
 }
 
 void PortfolioWindow::Start() {
+  current_ = nullptr;
   model_.Clear();
   progress_ = {};
   end_ = {};
@@ -127,7 +132,8 @@ void PortfolioWindow::Take(const CheckedParts& parts, const FileCheckProgress& p
     lacksDays_ |= std::ranges::any_of(part->Accounts(), &CheckedAccount::lacksDays);
   }
   ShowState();
-  AskForBalances();
+  // Asked once what came is taken: another file may be read then.
+  if (lacksDays_) QTimer::singleShot(0, this, [this] { AskForBalances(); });
 }
 
 void PortfolioWindow::AskForBalances() {
@@ -171,7 +177,7 @@ void PortfolioWindow::FindShown() {
 }
 
 void PortfolioWindow::ShowFound() {
-  ui_->tblResults->selectRow(0);
+  ui_->tblResults->selectRow(std::max(0, model_.PlaceOf(current_)));
   ShowState();
 }
 

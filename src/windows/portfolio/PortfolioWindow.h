@@ -66,6 +66,7 @@ class PortfolioWindow : public Form {
   bool lacksDays_ = false;  ///< statements came that need daily balances
   FileCheckProgress progress_;
   FileCheckEnd end_;
+  const CheckedRow* current_ = nullptr;  ///< that is marked
   ResultsModel model_;
   FileRun run_;
   BackgroundTask saving_;
