@@ -117,7 +117,7 @@ void PortfolioWindow::Start() {
   model_.Clear();
   progress_ = {};
   end_ = {};
-  lacksDays_ = false;
+  lacksDays_ = wasAsked_ = false;
   file_->ShowContext(FilesText(files_));
   run_.Start(files_);
   FocusField(ui_->tblResults);
@@ -133,13 +133,13 @@ void PortfolioWindow::Take(const CheckedParts& parts, const FileCheckProgress& p
   }
   ShowState();
   // Asked once what came is taken: another file may be read then.
-  if (lacksDays_) QTimer::singleShot(0, this, [this] { AskForBalances(); });
+  if (lacksDays_ && !wasAsked_) QTimer::singleShot(0, this, [this] { AskForBalances(); });
 }
 
 void PortfolioWindow::AskForBalances() {
-  const bool asks = lacksDays_ && files_.balances.empty() && windows().IsInFront(*this);
-  if (!asks) return;
-  lacksDays_ = false;
+  const bool needs = lacksDays_ && !wasAsked_ && files_.balances.empty();
+  if (!needs || !windows().IsInFront(*this)) return;
+  wasAsked_ = true;
   const QString question =
       "The file has statements without an average balance.\n"
       "Do you want to choose the file of their daily balances?";

@@ -64,6 +64,7 @@ class PortfolioWindow : public Form {
   TextLine* counts_ = nullptr;
   PortfolioFiles files_;
   bool lacksDays_ = false;  ///< statements came that need daily balances
+  bool wasAsked_ = false;   ///< for them
   FileCheckProgress progress_;
   FileCheckEnd end_;
   const CheckedRow* current_ = nullptr;  ///< that is marked
