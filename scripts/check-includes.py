@@ -5,10 +5,9 @@ import re
 import sys
 
 ORDER = ["support", "formulas", "account", "disclosure", "statement", "reports", "portfolio",
-         "check", "platform", "windows", "browser"]
+         "platform", "windows"]
 # Beside its own folder each folder may include these only; a folder not named here, all before it.
-ONLY = {"statement": ORDER[:3], "platform": ["support"],
-        "browser": ["support", "platform"]}
+ONLY = {"statement": ORDER[:3], "platform": ["support"]}
 
 
 def allowed(file, header):

@@ -17,8 +17,9 @@ SaveAnswer& Answer() {
 std::optional<QString> AskSavePath(QWidget* parent, const SaveQuestion& question) {
   if (Answer()) return Answer()(question);
   const QString proposed = QDir(question.folder).filePath(question.fileName);
-  const QString path =
-      QFileDialog::getSaveFileName(parent, question.title, proposed, question.filter);
+  const QString path = QFileDialog::getSaveFileName(
+      parent, question.title, proposed, question.filter, nullptr,
+      question.adds ? QFileDialog::DontConfirmOverwrite : QFileDialog::Options());
   return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 

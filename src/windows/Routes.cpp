@@ -3,12 +3,15 @@
 #include "disclosure/EntrySequence.h"
 #include "platform/BrowserLoader.h"
 #include "platform/ProgramFolder.h"
+#include "portfolio/OpenedCheck.h"
 #include "windows/disclosure/DisclosureEntryWindow.h"
 #include "windows/disclosure/DisclosureResultsWindow.h"
 #include "windows/disclosure/DisclosureSetupWindow.h"
 #include "windows/disclosure/TierTableWindow.h"
 #include "windows/frame/WindowRegistry.h"
 #include "windows/help/HelpWindow.h"
+#include "windows/portfolio/PortfolioReportWindow.h"
+#include "windows/portfolio/PortfolioWindow.h"
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
 #include "windows/start/MainMenu.h"
@@ -24,6 +27,24 @@ template <class Window>
 void Routes::Go() {
   if (windows_.HasEnded()) return;
   windows_.CloseOtherMainWindows(windows_.Show<Window>());
+}
+
+template <class Setup, class Entry, class Results>
+void Routes::GoTo(const OpenedCheck& opened) {
+  const auto go = [&]<class Window>(std::type_identity<Window>) {
+    Go<Window>();
+    if (!opened.told.empty()) windows_.Get<Window>().ShowHint(opened.told);
+  };
+  switch (opened.stage) {
+    case CheckStage::Setup:
+      return go(std::type_identity<Setup>());
+    case CheckStage::TierTable:
+      return go(std::type_identity<TierTableWindow>());
+    case CheckStage::Entry:
+      return go(std::type_identity<Entry>());
+    case CheckStage::Results:
+      return go(std::type_identity<Results>());
+  }
 }
 
 Session& Routes::session() {
@@ -81,6 +102,41 @@ void Routes::ShowMainMenu() {
   session().disclosure = {};
   session().statement = {};
   GoToMainMenu();
+}
+
+void Routes::ShowTable() {
+  Go<PortfolioWindow>();
+  auto& window = windows_.Get<PortfolioWindow>();
+  if (!window.HasFile()) window.ChooseFile();
+}
+
+bool Routes::HasTable() const {
+  const auto* window = windows_.Find<PortfolioWindow>();
+  return window && window->HasFile();
+}
+
+void Routes::CheckFiles(const std::vector<std::filesystem::path>& files) {
+  Go<PortfolioWindow>();
+  windows_.Get<PortfolioWindow>().CheckFiles(files);
+}
+
+void Routes::ShowPortfolioReport(const ReportContent& content) {
+  auto& window = windows_.Get<PortfolioReportWindow>();
+  window.ShowReport(content);
+  windows_.RunModal(window);
+}
+
+void Routes::OpenCheck(const OpenedCheck& opened) {
+  session().header = opened.header;
+  if (const auto* statement = std::get_if<StatementCheck>(&opened.check)) {
+    session().workflow = Workflow::Statement;
+    session().statement = *statement;
+    GoTo<StatementSetupWindow, StatementEntryWindow, StatementResultsWindow>(opened);
+  } else {
+    session().workflow = Workflow::Disclosure;
+    session().disclosure = std::get<DisclosureCheck>(opened.check);
+    GoTo<DisclosureSetupWindow, DisclosureEntryWindow, DisclosureResultsWindow>(opened);
+  }
 }
 
 void Routes::ContinueDisclosureSetup() {

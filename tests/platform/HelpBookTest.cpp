@@ -48,8 +48,8 @@ TEST_F(HelpBookTest, EveryContextNumberHasItsTopicAndAnUnknownOneTheMainMenu) {
       {1, "main-menu.htm"},       {2, "disclosure-setup.htm"}, {3, "disclosure-entry.htm"},
       {4, "tier-table.htm"},      {5, "disclaimer.htm"},       {6, "about.htm"},
       {7, "calendar.htm"},        {8, "statement-setup.htm"},  {9, "statement-period.htm"},
-      {10, "daily-balances.htm"}, {11, "interest-report.htm"}, {15, "results.htm"},
-      {99, "main-menu.htm"}};
+      {10, "daily-balances.htm"}, {11, "interest-report.htm"}, {12, "check-file.htm"},
+      {15, "results.htm"},        {99, "main-menu.htm"}};
   for (const auto& [context, topic] : contexts) {
     EXPECT_EQ(book_.TopicOf(context), topic);
     EXPECT_TRUE(book_.File(topic)) << topic;

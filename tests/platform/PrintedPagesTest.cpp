@@ -1,4 +1,4 @@
-#include "browser/PrintedPages.h"
+#include "platform/browser/PrintedPages.h"
 
 #include <QBuffer>
 #include <QPainter>

@@ -6,6 +6,8 @@
 #include "windows/frame/CalendarPopup.h"
 #include "windows/frame/PageLayout.h"
 #include "windows/help/HelpWindow.h"
+#include "windows/portfolio/PortfolioReportWindow.h"
+#include "windows/portfolio/PortfolioWindow.h"
 #include "windows/start/AboutWindow.h"
 #include "windows/start/DisclaimerWindow.h"
 #include "windows/start/MainMenu.h"
@@ -157,7 +159,7 @@ class FormLayout : public WindowTest {
     Examine<DisclaimerWindow, MainMenu, AboutWindow, HelpWindow, CalendarPopup, TierTableWindow,
             DisclosureSetupWindow, DisclosureEntryWindow, DisclosureResultsWindow,
             StatementSetupWindow, StatementEntryWindow, StatementResultsWindow,
-            InterestReportWindow>();
+            InterestReportWindow, PortfolioWindow, PortfolioReportWindow>();
   }
 
   void ExamineDays() {

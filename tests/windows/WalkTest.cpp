@@ -1,5 +1,6 @@
 #include "TemporaryFolder.h"
 #include "platform/OpenDialog.h"
+#include "platform/SaveDialog.h"
 #include "windows/WindowTest.h"
 #include "windows/start/MainMenu.h"
 
@@ -158,6 +159,11 @@ class Walk : public WindowTest {
       {"copy",
        Each([](auto& text, auto&) { QGuiApplication::clipboard()->setText(Unescaped(text)); })},
       {"opened", [this](auto& words) { Opened(Unescaped(words[0])); }},
+      {"opens",
+       Each([this](auto& name, auto&) { SetOpenAnswer([path = PathOf(name)] { return path; }); })},
+      {"saves", Each([this](auto& name, auto&) {
+         SetSaveAnswer([path = PathOf(name)](const SaveQuestion&) { return path; });
+       })},
       {"menu", Each([this](auto& item, auto&) { Menu(item); })},
       {"entry", Each([this](auto& number, auto&) { ClickEntry(number.toInt()); })},
       {"close", Each([this](auto& name, auto&) {
@@ -182,6 +188,8 @@ class Walk : public WindowTest {
       {"unchosen", State("checked", false)},
       {"up", State("down", false)},
       {"report", [this](const Words& words) { Report(words); }},
+      {"rows", [this](const Words& words) { Rows(words.value(0)); }},
+      {"file", [this](const Words& words) { Holds(words.value(0), Unescaped(words.value(1))); }},
       {"closed", Each([](auto& name, auto&) { EXPECT_EQ(VisibleForm(name), nullptr); })},
       {"ended", [this](const Words&) { Ended(); }},
       {"pressed", Each([this](auto& keys, auto&) {
@@ -289,6 +297,32 @@ class Walk : public WindowTest {
     QFile file(folder_.Path() / "opened.csv");
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) > 0);
     SetOpenAnswer([path = file.fileName()] { return path; });
+  }
+
+  QString PathOf(const QString& name) const {
+    return QString::fromStdString((folder_.Path() / name.toStdString()).string());
+  }
+
+  /// A file that was saved ends with this text.
+  void Holds(const QString& name, const QString& text) {
+    QFile file(PathOf(name));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << "no such file";
+    const QString content = QString::fromUtf8(file.readAll());
+    EXPECT_TRUE(content.endsWith(text)) << content.toStdString();
+  }
+
+  /// The table of results, which fills while it is looked at: account and verdict of its rows.
+  void Rows(const QString& expected) {
+    const auto* model = Get<QTableView>("tblResults")->model();
+    const auto shown = [model] {
+      QStringList rows;
+      for (int row = 0; row < model->rowCount(); ++row) {
+        const auto cell = [&](int column) { return model->index(row, column).data().toString(); };
+        rows << cell(1) + ' ' + cell(8);
+      }
+      return rows.join("; ");
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == expected; })) << shown().toStdString();
   }
 
   void Shows(const QString& name, const QString& text) {

@@ -18,7 +18,7 @@ constexpr int kHelpContext = 15;
 }  // namespace
 
 DisclosureResultsWindow::DisclosureResultsWindow(WindowRegistry& registry)
-    : ReportWindow(registry, Role::Main, kDisclosureReport),
+    : ResultsWindow(registry, Role::Main, kDisclosureReport),
       ui_(std::make_unique<Ui::DisclosureResultsWindow>()) {
   ui_->setupUi(this);
   PlaceView(ui_->fraReport, "WebView");
@@ -27,6 +27,7 @@ DisclosureResultsWindow::DisclosureResultsWindow(WindowRegistry& registry)
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { routes().ShowMainMenuKeepingHeader(); });
+  AddFileItems();
   EnterPresses({ui_->cmdBack});
   BindCommonMenus(kHelpContext);
 }
@@ -39,6 +40,10 @@ void DisclosureResultsWindow::Form_Activate() {
   if (const auto slip = SlipOfResults(session().disclosure)) ShowHint(*slip);
   BuildReport();
   FocusReport();
+}
+
+AddOutcome DisclosureResultsWindow::AddTo(const std::filesystem::path& file) {
+  return AddToFile(file, session().header, session().disclosure);
 }
 
 ReportContent DisclosureResultsWindow::Content() {

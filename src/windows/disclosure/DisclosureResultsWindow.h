@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "windows/frame/ReportWindow.h"
+#include "windows/frame/ResultsWindow.h"
 
 namespace Ui {
 class DisclosureResultsWindow;
@@ -11,7 +11,7 @@ class DisclosureResultsWindow;
 namespace corvane {
 
 /// The disclosure results: the summary report of a check, to be read, printed and saved.
-class DisclosureResultsWindow : public ReportWindow {
+class DisclosureResultsWindow : public ResultsWindow {
   Q_OBJECT
 
  public:
@@ -22,6 +22,7 @@ class DisclosureResultsWindow : public ReportWindow {
 
  private:
   ReportContent Content() override;
+  AddOutcome AddTo(const std::filesystem::path& file) override;
 
   std::unique_ptr<Ui::DisclosureResultsWindow> ui_;
 };

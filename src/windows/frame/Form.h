@@ -53,6 +53,8 @@ class Form : public QMainWindow {
   /// True for a form that chooses its place. Any other main window shows where the one before it
   /// stood, and a secondary one above the middle of the main window.
   virtual bool PlacesItself() const { return false; }
+  /// True for a main window that is hidden and not closed when another one opens.
+  virtual bool StaysWhenLeft() const { return false; }
   /// Asked before the frame closes the form; false keeps it open.
   virtual bool Form_QueryUnload() { return true; }
 

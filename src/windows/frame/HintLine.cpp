@@ -17,6 +17,9 @@ constexpr std::pair<const char*, const char*> kNextSteps[] = {
      "Choose the number of tiers, then type each tier's rate and upper bound. Continue goes on."},
     {"frmInterestbyDay",
      "Type the balance of every day. Compute ADB hands average and interest back."},
+    {"frmPortfolio",
+     "Enter opens the account of the marked row. A click on a heading sorts by it."},
+    {"frmPortfolioReport", "Print or save the report. Back returns to the table."},
     {"frmInterestReport", "Print or save the days. Back returns to the daily balances."},
 };
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
+#include <vector>
 
 #include "account/Refusal.h"
 #include "account/TierTable.h"
@@ -9,6 +11,8 @@
 namespace corvane {
 
 class WindowRegistry;
+struct OpenedCheck;
+struct ReportContent;
 struct Session;
 
 /// Every way from one window to another: who opens whom, what is kept, what is closed. A window
@@ -30,6 +34,13 @@ class Routes {
   // To the main menu, which also closes the help.
   void ShowMainMenu();               ///< nothing of the account is kept
   void ShowMainMenuKeepingHeader();  ///< but for the identification
+
+  // A whole file, whose table stays until another file is checked.
+  void ShowTable();  ///< asks for a file where there is none
+  bool HasTable() const;
+  void CheckFiles(const std::vector<std::filesystem::path>& files);
+  void ShowPortfolioReport(const ReportContent& content);  ///< above the table
+  void OpenCheck(const OpenedCheck& opened);  ///< at its results, or where it is refused
 
   // A disclosure or advertisement.
   void ContinueDisclosureSetup();  ///< to the tier table or the entry
@@ -57,6 +68,9 @@ class Routes {
   /// Shows a main window in place of the one that is left.
   template <class Window>
   void Go();
+  /// Shows the window that an opened check stands at, with what was told of it.
+  template <class Setup, class Entry, class Results>
+  void GoTo(const OpenedCheck& opened);
   void GoToMainMenu();
   Session& session();
 

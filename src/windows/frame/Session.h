@@ -18,6 +18,7 @@ struct Session {
   DisclosureCheck disclosure;
   StatementCheck statement;
   int reportZoom = 100;              ///< percent of their size that reports are shown at
+  std::filesystem::path checkFile;   ///< that checks were last added to; empty for none
   std::filesystem::path dataFolder;  ///< of the reports; empty where it could not be made
 
   /// Kind of account and tier table of the workflow that is under way.

@@ -111,7 +111,8 @@ void WindowRegistry::CloseOtherMainWindows(const Form& kept) {
   const auto open = open_;
   for (const Entry& entry : open) {
     const bool isMain = entry.form->WindowRole() == Form::Role::Main;
-    if (isMain && entry.form != &kept) Close(*entry.form);
+    if (!isMain || entry.form == &kept) continue;
+    entry.form->StaysWhenLeft() ? entry.form->hide() : Close(*entry.form);
   }
 }
 

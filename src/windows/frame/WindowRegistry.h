@@ -61,7 +61,7 @@ class WindowRegistry {
   bool IsInFront(const Form& form) const;
   /// Closes a window without ending the program.
   void Close(Form& form);
-  /// Closes every main window but this one.
+  /// Closes every main window but this one, or hides it where it stays.
   void CloseOtherMainWindows(const Form& kept);
   /// The person closed the window by its frame: ends the program, or closes a secondary window.
   void CloseByFrame(Form& form);

@@ -17,7 +17,7 @@ constexpr int kHelpContext = 15;
 }  // namespace
 
 StatementResultsWindow::StatementResultsWindow(WindowRegistry& registry)
-    : ReportWindow(registry, Role::Main, kStatementReport),
+    : ResultsWindow(registry, Role::Main, kStatementReport),
       ui_(std::make_unique<Ui::StatementResultsWindow>()) {
   ui_->setupUi(this);
   PlaceView(ui_->fraReport, "WebViewS");
@@ -27,6 +27,7 @@ StatementResultsWindow::StatementResultsWindow(WindowRegistry& registry)
   OnClick(ui_->cmdExit, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuNewAccount, [this] { ui_->cmdAcct->click(); });
   OnMenu(ui_->mnuMain, [this] { ui_->cmdExit->click(); });
+  AddFileItems();
   EnterPresses({ui_->cmdBack});
   BindCommonMenus(kHelpContext);
 }
@@ -43,6 +44,10 @@ void StatementResultsWindow::Form_Activate() {
   if (const auto slip = SlipOfResults(session().statement)) ShowHint(*slip);
   BuildReport();
   FocusReport();
+}
+
+AddOutcome StatementResultsWindow::AddTo(const std::filesystem::path& file) {
+  return AddToFile(file, session().header, session().statement);
 }
 
 ReportContent StatementResultsWindow::Content() {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "windows/frame/ReportWindow.h"
+#include "windows/frame/ResultsWindow.h"
 
 namespace Ui {
 class StatementResultsWindow;
@@ -11,7 +11,7 @@ class StatementResultsWindow;
 namespace corvane {
 
 /// The statement results: the summary report of a check, and the way to its days.
-class StatementResultsWindow : public ReportWindow {
+class StatementResultsWindow : public ResultsWindow {
   Q_OBJECT
 
  public:
@@ -23,6 +23,7 @@ class StatementResultsWindow : public ReportWindow {
 
  private:
   ReportContent Content() override;
+  AddOutcome AddTo(const std::filesystem::path& file) override;
   void cmdDetail_Click();
 
   std::unique_ptr<Ui::StatementResultsWindow> ui_;

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QWebEngineSettings>
 
-#include "browser/Pages.h"
+#include "platform/browser/Pages.h"
 
 namespace corvane {
 

@@ -13,8 +13,8 @@
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
-#include "browser/Pages.h"
-#include "browser/PrintedPages.h"
+#include "platform/browser/Pages.h"
+#include "platform/browser/PrintedPages.h"
 #include "support/ProgramTitle.h"
 
 namespace corvane {

@@ -12,7 +12,7 @@
 #include <QWebEngineUrlSchemeHandler>
 #include <QWebEngineView>
 
-#include "browser/Pages.h"
+#include "platform/browser/Pages.h"
 
 namespace corvane {
 
