@@ -35,6 +35,8 @@ class PortfolioWindowTest : public WindowTest {
     for (const auto& path : paths)
       urls << QUrl::fromLocalFile(QString::fromStdString(path.string()));
     files.setUrls(urls);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
+    QApplication::sendEvent(&window, &enter);
     QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
     QApplication::sendEvent(&window, &drop);
     EXPECT_TRUE(drop.isAccepted());
