@@ -11,9 +11,9 @@ namespace corvane {
 
 namespace {
 
-constexpr const char* kHeadings[] = {"Line",     "Account",       "Check",        "Description",
-                                     "Interest", "Disclosed APY", "Computed APY", "Difference",
-                                     "Verdict",  "Message"};
+constexpr const char* kHeadings[] = {"Line",         "Account",    "Verdict",  "Disclosed APY",
+                                     "Computed APY", "Difference", "Interest", "Check",
+                                     "Description",  "Message"};
 
 std::string CountText(std::size_t count) {
   return FormatGroupedWhole(static_cast<double>(count));
@@ -98,7 +98,7 @@ const char* HeadingOf(TableColumn column) {
 
 bool IsNumeric(TableColumn column) {
   return column == TableColumn::Line ||
-         (column >= TableColumn::Interest && column <= TableColumn::Difference);
+         (column >= TableColumn::DisclosedApy && column <= TableColumn::Interest);
 }
 
 std::string CellText(const CheckedRow& row, TableColumn column) {

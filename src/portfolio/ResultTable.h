@@ -16,13 +16,13 @@ namespace corvane {
 enum class TableColumn {
   Line,
   Account,
-  Check,
-  Description,
-  Interest,
+  Verdict,
   DisclosedApy,
   ComputedApy,
   Difference,
-  Verdict,
+  Interest,
+  Check,
+  Description,
   Message,
   Count
 };

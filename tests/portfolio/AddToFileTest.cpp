@@ -7,6 +7,7 @@
 #include "RunText.h"
 #include "TemporaryFolder.h"
 #include "disclosure/DisclosureCalculation.h"
+#include "disclosure/EntrySequence.h"
 #include "portfolio/CheckRows.h"
 #include "portfolio/FileCheck.h"
 #include "support/WholeFile.h"
@@ -23,13 +24,12 @@ DisclosureCheck SteppedCheck(int periods) {
   DisclosureCheck check;
   check.setup.kind = AccountKind::Stepped;
   for (int period = 0; period < periods; ++period) {
-    DisclosureEntry entry;
+    DisclosureEntry entry = PresentEntry(check);
     entry.txtTierPerNum.text = "2";
     entry.txtDiscAPY.text = "5.39";
     entry.txtBal.text = "1000";
     entry.txtIntRateA.text = period == 0 ? "5" : "5.5";
     entry.txtTerm.text = period == 0 ? "91" : "92";
-    entry.txtDailyRateFactor.text = "1/365";
     EXPECT_FALSE(AttemptCalculation(check, entry).refusal);
   }
   return check;
@@ -68,6 +68,7 @@ TEST(AddToFile, AddsAChecksRowsToAFileOfItsColumnsAloneInItsLineEnds) {
     EXPECT_TRUE(after.starts_with(before));
     EXPECT_EQ(std::ranges::count(after, '\r'), before.find('\r') == before.npos ? 0 : 4);
     const std::vector<NamedCells> rows = RowsOf(RunText(after));
+    ASSERT_FALSE(rows.empty());
     const NamedCells& last = rows.back();
     EXPECT_EQ(last.at("account"), account);
     EXPECT_EQ(last.at("institution"), "A, B");

@@ -3,7 +3,6 @@
 #include "TemporaryFolder.h"
 #include "platform/SaveDialog.h"
 #include "windows/WindowTest.h"
-#include "windows/portfolio/PortfolioReportWindow.h"
 #include "windows/portfolio/PortfolioWindow.h"
 #include "windows/start/MainMenu.h"
 
@@ -36,6 +35,8 @@ class PortfolioWindowTest : public WindowTest {
     for (const auto& path : paths)
       urls << QUrl::fromLocalFile(QString::fromStdString(path.string()));
     files.setUrls(urls);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
+    QApplication::sendEvent(&window, &enter);
     QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
     QApplication::sendEvent(&window, &drop);
     EXPECT_TRUE(drop.isAccepted());
@@ -63,9 +64,9 @@ TEST_F(PortfolioWindowTest, AHundredThousandAccountsShowWhileTheyAreReadAndAreSo
     QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.Results().IsSettled(); }));
   };
-  sort(7);
+  sort(5);
   EXPECT_EQ(shown(0, 1), "A100") << "the greatest difference below 0 first, in the file's order";
-  sort(7);
+  sort(5);
   EXPECT_EQ(shown(0, 1), "A1");
   Type("txtFilter", "a9999");
   EXPECT_TRUE(QTest::qWaitFor([&] { return table->model()->rowCount() == 11; }));
@@ -89,11 +90,6 @@ TEST_F(PortfolioWindowTest, AHundredThousandAccountsShowWhileTheyAreReadAndAreSo
   EXPECT_TRUE(second.starts_with("A100000,none,9,1000,5,365,x,50.00,5.00,-4.00,APY VIOLATION"))
       << second;
   EXPECT_FALSE(std::getline(file, third));
-  WhenShown<PortfolioReportWindow>([this] { Click("cmdExit"); });
-  Click("cmdReport");
-  std::ifstream report(session.dataFolder / "Portfolio_Report.html");
-  const std::string text{std::istreambuf_iterator<char>(report), {}};
-  EXPECT_NE(text.find("99,000"), std::string::npos);
 }
 
 TEST_F(PortfolioWindowTest, AReadingThatIsCancelledKeepsWhatItHasAndOneThatIsLeftGoesOn) {

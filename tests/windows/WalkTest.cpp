@@ -318,7 +318,7 @@ class Walk : public WindowTest {
       QStringList rows;
       for (int row = 0; row < model->rowCount(); ++row) {
         const auto cell = [&](int column) { return model->index(row, column).data().toString(); };
-        rows << cell(1) + ' ' + cell(8);
+        rows << cell(1) + ' ' + cell(2);
       }
       return rows.join("; ");
     };

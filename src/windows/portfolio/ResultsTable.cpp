@@ -9,13 +9,13 @@ namespace {
 /// A text of each column but the last that has to be read whole.
 constexpr const char* kWidest[] = {"1,000,000",
                                    "0000000000",
-                                   "Disclosure, Tiered - Method A",
-                                   "Certificate of deposit",
-                                   "99,999.99",
+                                   "APY VIOLATION",
                                    "Disclosed APY",
                                    "Computed APY",
                                    "Difference",
-                                   "APY VIOLATION"};
+                                   "99,999.99",
+                                   "Disclosure, TIERING Method B",
+                                   "Certificate of deposit"};
 
 }  // namespace
 
