@@ -127,7 +127,7 @@ Outcome<DisclosureResult> ComputeResult(const DisclosureCheck& check, const Acco
 
 int YearDaysOf(const DisclosureCheck& check) {
   if (check.setup.kind != AccountKind::TierB || check.completed == 0) return check.setup.year.days;
-  return YearDaysOfMethodB(TermsOf(check.setup), DepositOf(check.entries.front()));
+  return YearDaysOfMethodB(TermsOf(check.setup), DepositOf(EntryNumbers(check.entries.front())));
 }
 
 AttemptOutcome AttemptCalculation(DisclosureCheck& check, DisclosureEntry& entry) {
