@@ -49,27 +49,6 @@ TEST(InterestByDay, EveryKindOfAccountAgreesWithTheReference) {
   }
 }
 
-TEST(InterestByDay, CompoundingEveryThirtyDaysAddsTheTotalOnDays31And61Only) {
-  StatementAccount account = AccountOfKind(Regular);
-  account.compoundingDays = 30;
-  const auto ofDay = InterestByDay(account, std::vector<double>(62, 1000), {}).interest.ofDay;
-  EXPECT_NEAR(ofDay[29], 0.1, 1e-12);
-  EXPECT_NEAR(ofDay[30], 0.0001 * 1003, 1e-12);
-  EXPECT_NEAR(ofDay[31], 0.1, 1e-12);
-  EXPECT_NEAR(ofDay[60], 0.0001 * (1000 + 3 + 3.0003), 1e-12);
-}
-
-TEST(InterestByDay, ADayBelowTheMinimumOrNegativeEarnsNothingWhateverTheAccount) {
-  for (AccountKind kind : {Regular, Stepped, TierA, TierB}) {
-    StatementAccount account = AccountOfKind(kind);
-    EXPECT_EQ(InterestByDay(account, {-900}, {5}).interest.total, 0) << "a debt costs nothing";
-    account.minimumDailyBalance = 500;
-    const auto ofDay = InterestByDay(account, {499.99, 500}, {5, 5}).interest.ofDay;
-    EXPECT_EQ(ofDay[0], 0);
-    EXPECT_GT(ofDay[1], 0);
-  }
-}
-
 TEST(InterestByDay, ABalanceEqualToABoundBelongsToTheLowerTier) {
   const std::pair<double, double> rates[] = {
       {-5, 1.05}, {1000, 1.05}, {1000.01, 2.5}, {15000, 4.1265}, {15000.01, 5.75}};
