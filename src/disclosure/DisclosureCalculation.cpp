@@ -1,5 +1,7 @@
 #include "disclosure/DisclosureCalculation.h"
 
+#include <algorithm>
+#include <iterator>
 #include <span>
 
 #include "account/DailyRateFactor.h"
@@ -111,9 +113,7 @@ Result ComputeTierEnds(const DisclosureCheck& check, const AccountTerms& terms) 
 
 std::vector<Deposit> CompletedDeposits(const DisclosureCheck& check) {
   std::vector<Deposit> deposits;
-  for (int k = 0; k < check.completed; ++k) {
-    deposits.push_back(DepositOf(check.entries.at(static_cast<std::size_t>(k))));
-  }
+  std::ranges::transform(CompletedEntries(check), std::back_inserter(deposits), DepositOf);
   return deposits;
 }
 

@@ -1,7 +1,7 @@
 #include "reports/ReportFile.h"
 
 #include <algorithm>
-#include <ranges>
+#include <span>
 
 #include "support/Paths.h"
 
@@ -17,7 +17,7 @@ constexpr std::size_t kMostTagsTold = 3;
 
 std::vector<Refusal> UnknownTags(const std::vector<std::string>& tags) {
   std::vector<Refusal> messages;
-  for (const std::string& tag : tags | std::views::take(kMostTagsTold)) {
+  for (const std::string& tag : std::span(tags).first(std::min(tags.size(), kMostTagsTold))) {
     messages.push_back(
         Message("Unrecognized Tag String = " + tag + " from Horizontal Template File"));
   }

@@ -49,6 +49,17 @@ TEST(InterestByDay, EveryKindOfAccountAgreesWithTheReference) {
   }
 }
 
+TEST(InterestByDay, AnAverageOfExactlyHalfACentGoesToTheEvenCent) {
+  // Ten days of each and six more of the last: 189,704,480.16 in 96 days are 1,976,088.335 a day.
+  std::vector<double> balances;
+  for (double balance :
+       {10000000.0, 5523.01, 3088835.58, 0.0, 5869298.51, -50.0, 1000.01, 0.0, 5190.9}) {
+    balances.insert(balances.end(), 10, balance);
+  }
+  balances.insert(balances.end(), 6, 1000.01);
+  EXPECT_DOUBLE_EQ(AverageDailyBalance(balances), 1976088.34);
+}
+
 TEST(InterestByDay, ABalanceEqualToABoundBelongsToTheLowerTier) {
   const std::pair<double, double> rates[] = {
       {-5, 1.05}, {1000, 1.05}, {1000.01, 2.5}, {15000, 4.1265}, {15000.01, 5.75}};

@@ -75,7 +75,7 @@ def order_matters(program, accounts, results):
     """The place of an account that comes out otherwise in a file of the other order, or None."""
     last = len(accounts) - 1
     turned = results_of(program, accounts[::-1])
-    return next((place for place in range(last + 1) if turned[last - place] != results[place]), None)
+    return next((k for k in range(last + 1) if turned[last - k] != results[k]), None)
 
 
 def difference(expected, results):
@@ -88,13 +88,15 @@ def difference(expected, results):
             text = figure if isinstance(figure, str) else f"{figure:.2f}"
             if row[column] != text:
                 return place, column, text, row[column]
-    return None if len(expected) <= len(results) else (len(results), "rows", len(expected), len(results))
+    if len(results) < len(expected):
+        return len(results), "rows", len(expected), len(results)
+    return None
 
 
 def differs(program, account):
     try:
         made = rows_of(account)
-    except (Open, ArithmeticError, ValueError, IndexError):
+    except (Open, ArithmeticError, ValueError, IndexError, TypeError):
         return None
     return difference(made[1], results_of(program, [made])[0])
 
@@ -111,7 +113,8 @@ def rounder(name, value):
     if value in candidates:
         return candidates[:candidates.index(value)]
     if isinstance(value, Decimal):
-        return candidates + [v for v in (value.quantize(Decimal(1)), value.quantize(Decimal("0.01"))) if v != value]
+        rounds = [value.quantize(Decimal(1)), value.quantize(Decimal("0.01"))]
+        return candidates + [v for v in rounds if v != value]
     return candidates
 
 

@@ -1,7 +1,8 @@
 """Random accounts of every kind, the rows they make in a file, and the figures they come to.
 
-An account is a dictionary of the choices it was made of, so that it can be printed and made simpler.
-Terms, bounds and disclosed APYs follow from the choices, and a simpler account stays a valid one.
+An account is a dictionary of the choices it was made of, so that it can be printed and made
+simpler. Terms, bounds and disclosed APYs follow from the choices, so that a simpler account stays a
+valid one.
 """
 
 from datetime import date, timedelta
@@ -50,7 +51,8 @@ def money(random):
 
 
 def percent(random):
-    return random.choice([Decimal(random.randint(1, 30)) / 4, Decimal(random.randint(0, 150000)) / 10**4,
+    return random.choice([Decimal(random.randint(1, 30)) / 4,
+                          Decimal(random.randint(0, 150000)) / 10**4,
                           Decimal(random.randint(1, 9999)) / 10**4, Decimal(5)])
 
 
@@ -61,7 +63,7 @@ def off(random):
 
 def part(random, unit, n, withdrawal, leap):
     """A period, a tier, or a whole regular account."""
-    longest = {"none": 1500, "days": 1500 // n, "months": max(120 // n, 1), "years": max(30 // n, 1)}[unit]
+    longest = {"none": 1500, "days": 1500 // n, "months": 120 // n, "years": 30 // n}[unit]
     each = random.choice([1, random.randint(1, longest), random.randint(1, min(longest, 30))])
     w = random.choice([1, 2, 12, random.randint(1, 24)]) if withdrawal != "none" else 0
     if withdrawal == "months" and unit == "days" or w > 1:
@@ -113,13 +115,16 @@ def statement(random):
     near = lambda value: max(value + random.choice([0, 0, 1, -1]) / Decimal(100), Decimal("0.01"))
     stepped_or_formula = kind == "stepped" or formula > 0
     minimums = random.choice([(0, 0), (0, 0), (0, 1), (1, 1)] + [(1, 0)] * (not stepped_or_formula))
-    method = "daily" if stepped_or_formula or minimums == (0, 1) else random.choice(["adb", "daily"])
+    daily_only = stepped_or_formula or minimums == (0, 1)
+    method = "daily" if daily_only else random.choice(["adb", "daily"])
     return {"check": "statement", "kind": kind, "every": every, "formula": formula, "basis": basis,
-            "leap": leap, "factor": factor, "method": method, "rate": percent(random) + Decimal("0.0001"),
+            "leap": leap, "factor": factor, "method": method,
+            "rate": percent(random) + Decimal("0.0001"),
             "tiers": tiers, "days": days, "entered": random.random() < 0.8,
             "minimum_adb": near(average) * minimums[0],
             "minimum_daily": near(random.choice(counted)) * minimums[1],
-            "start": date(random.choice([2023, 2024]), random.choice([1, 2, 12]), random.randint(1, 28)),
+            "start": date(random.choice([2023, 2024]), random.choice([1, 2, 12]),
+                          random.randint(1, 28)),
             "by_dates": random.random() < 0.4, "interest": money(random) / 100, "off": off(random)}
 
 
@@ -146,7 +151,8 @@ def term_of(account, chosen):
         return Term(each * w, m=n, **place)
     if account["unit"] == "months":
         return Term(each * w, m=each * n, **place)
-    return Term(dy.run_length(chosen["month"], w * each, chosen["year"], account["leap"]), m=each, **place)
+    days = dy.run_length(chosen["month"], w * each, chosen["year"], account["leap"])
+    return Term(days, m=each, **place)
 
 
 def entry_cells(account, chosen, term):
@@ -182,8 +188,8 @@ def each_alone(account, terms_of, rows, figures):
 
 def all_periods(account, terms_of, rows, figures):
     parts = account["parts"]
-    earned, apy, _ = stepped_cases.figures(terms_of, [p["rate"] for p in parts], parts[0]["balance"],
-                                           [term_of(account, p) for p in parts])
+    terms, rates = [term_of(account, p) for p in parts], [p["rate"] for p in parts]
+    earned, apy, _ = stepped_cases.figures(terms_of, rates, parts[0]["balance"], terms)
     settled(sum(earned))
     for figure, amount in zip(figures, earned):
         figure["computed_interest"] = settled(amount)
@@ -263,14 +269,17 @@ def statement_rows(account):
              "daily_rate_factor": f"1/{account['factor']}", "minimum_adb": account["minimum_adb"],
              "minimum_daily": account["minimum_daily"], "start_date": account["start"],
              "method": "" if locked else account["method"]}
-    cells |= {"end_date": end_of(account["start"], count, leap)} if account["by_dates"] else {"days": count}
+    if account["by_dates"]:
+        cells["end_date"] = end_of(account["start"], count, leap)
+    else:
+        cells["days"] = count
     rows = [cells | {"rate": t["rate"]} for t in account["tiers"]] or [cells]
     if account["kind"] == "regular":
         cells["rate"] = account["rate"]
     for row, bound in zip(rows, bounds_of(account["tiers"], "span") if account["tiers"] else []):
         row["not_exceeding"] = bound
-    average, amount = statement_cases.interest(statement_of(account), [b for b, _ in account["days"]],
-                                               [r for _, r in account["days"]])
+    average, amount = statement_cases.interest(
+        statement_of(account), [b for b, _ in account["days"]], [r for _, r in account["days"]])
     figure, interest = {}, None
     if account["entered"]:
         figure["computed_average"] = average
@@ -288,11 +297,12 @@ def statement_rows(account):
     disclosed(rows[0], figure, apy_of(apy), account["off"])
     rows[0]["disclosed_apy"] = max(rows[0]["disclosed_apy"], Decimal("0.01"))
     figure["verdict"] = verdict(rows[0]["disclosed_apy"], figure["computed_apy"])
-    days = [(account["start"] + timedelta(day), balance, rate if account["kind"] == "stepped" else "")
+    stepped = account["kind"] == "stepped"
+    days = [(account["start"] + timedelta(day), balance, rate if stepped else "")
             for day, (balance, rate) in enumerate(account["days"])]
     return rows, [figure], days if account["entered"] else []
 
 
 def rows_of(account):
-    """Rows, expected figures of each, and daily balances. Raises Open where there is no one answer."""
+    """Rows, expected figures of each, daily balances; raises Open where there is no one answer."""
     return disclosure_rows(account) if account["check"] == "disclosure" else statement_rows(account)
