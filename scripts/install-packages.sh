@@ -11,8 +11,8 @@ for_run="cmake ninja-build g++ qt6-base-dev qt6-pdf-dev qt6-webengine-dev libgl-
   libchm-dev fp-utils fontconfig fonts-dejavu-core"
 for_test="$for_run libgtest-dev"
 for_package="$for_run dpkg-dev file"
-for_ci="$for_test dpkg-dev file libbenchmark-dev clang-format python3 desktop-file-utils appstream
-  clang libclang-rt-dev"
+for_ci="$for_test dpkg-dev file libbenchmark-dev clang-format clang-tidy cppcheck gcovr python3
+  desktop-file-utils appstream clang libclang-rt-dev"
 
 case "${1:-ci}" in
   run) packages=$for_run ;;

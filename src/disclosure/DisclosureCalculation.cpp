@@ -1,5 +1,7 @@
 #include "disclosure/DisclosureCalculation.h"
 
+#include <algorithm>
+#include <iterator>
 #include <span>
 
 #include "disclosure/EntryChecks.h"
@@ -113,9 +115,9 @@ Result ComputeTierEnds(const DisclosureCheck& check, const AccountTerms& terms) 
 
 std::vector<Deposit> CompletedDeposits(const DisclosureCheck& check) {
   std::vector<Deposit> deposits;
-  for (int k = 0; k < check.completed; ++k) {
-    deposits.push_back(DepositOf(EntryNumbers(check.entries.at(static_cast<std::size_t>(k)))));
-  }
+  std::ranges::transform(
+      CompletedEntries(check), std::back_inserter(deposits),
+      [](const DisclosureEntry& entry) { return DepositOf(EntryNumbers(entry)); });
   return deposits;
 }
 

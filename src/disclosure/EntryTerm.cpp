@@ -60,7 +60,7 @@ std::optional<std::string> CountedTermText(const DisclosureSetup& setup,
   const auto days = DaysBetweenDates(setup, entry);
   const int length = PeriodLength(setup);
   if (!days || *days <= 0 || *days % length != 0) return std::nullopt;
-  return FormatPlain(*days / length);
+  return std::to_string(*days / length);
 }
 
 void CountTerm(const DisclosureSetup& setup, DisclosureEntry& entry) {

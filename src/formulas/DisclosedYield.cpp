@@ -17,9 +17,11 @@ Outcome<TermInterest> InterestByYears(const AccountTerms& terms, const Deposit& 
   if (!periods || !(deposit.factorDays > 0)) return Failure::NotComputable;
   const double ratePerPeriod = PeriodicRate(deposit.rate, deposit.factorDays) *
                                kDaysOfACompoundingYear * terms.compounding.length;
-  double grown = deposit.balance;
-  for (int k = 0; k < *periods; ++k) grown += RoundIntermediate(grown * ratePerPeriod);
-  return TermInterest{grown - deposit.balance, deposit.term};
+  double earned = 0;
+  for (int k = 0; k < *periods; ++k) {
+    earned += RoundIntermediate((deposit.balance + earned) * ratePerPeriod);
+  }
+  return TermInterest{earned, deposit.term};
 }
 
 Outcome<TermInterest> InterestOfPeriod(const AccountTerms& terms, Deposit period, double balance,

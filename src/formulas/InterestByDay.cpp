@@ -80,7 +80,8 @@ double AverageDailyBalance(const std::vector<double>& balances) {
   if (balances.empty()) return 0;
   double sum = 0;
   for (double balance : balances) sum += CountedBalance(balance);
-  return RoundToCents(sum / static_cast<double>(balances.size()));
+  // The sum of whole cents is one too; what binary digits added could hide an exact half.
+  return RoundToCents(RoundToCents(sum) / static_cast<double>(balances.size()));
 }
 
 StatementInterest InterestByDay(const StatementAccount& account,

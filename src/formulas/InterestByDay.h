@@ -11,6 +11,7 @@ double CountedBalance(double balance);
 
 /// The average of the counted balances of all days, in currency rounded to 2 decimals; 0 without
 /// days.
+/// @param balances whole cents
 double AverageDailyBalance(const std::vector<double>& balances);
 
 /// The interest of a period in currency, kept to 15 decimals.

@@ -33,24 +33,27 @@ std::chrono::year_month MonthAfter(const AccountTerms& terms, std::chrono::year_
                                  : MonthInSameYear(month, count);
 }
 
+// Interest is summed by itself: as the growth of a large balance it would lose its last digits, and
+// with them an exact half of a cent.
+
 /// Interest of one withdrawal period that compounds day by day.
 double InterestOfDays(double principal, double dailyRate, int days) {
-  double grown = principal;
-  for (; days > 0; --days) grown = dailyRate * grown + grown;
-  return grown - principal;
+  double earned = 0;
+  for (; days > 0; --days) earned += dailyRate * (principal + earned);
+  return earned;
 }
 
 /// Interest of one withdrawal period of so many N-month compoundings from a month on.
 double InterestOfMonths(const AccountTerms& terms, double dailyRate, double principal,
                         std::chrono::year_month month, int compoundings) {
   const int length = terms.compounding.length;
-  double grown = principal;
+  double earned = 0;
   for (; compoundings > 0; --compoundings) {
     const double days = DaysOfMonths(terms, month, length);
-    grown += RoundIntermediate(dailyRate * grown * days);
+    earned += RoundIntermediate(dailyRate * (principal + earned) * days);
     month = MonthAfter(terms, month, length);
   }
-  return grown - principal;
+  return earned;
 }
 
 }  // namespace
@@ -62,9 +65,11 @@ Outcome<TermInterest> WithdrawnEveryDays(const AccountTerms& terms, const Deposi
   if (!(withdrawals > 1) || !steps) return Failure::NotComputable;
   const double length = terms.compounding.length;
   const double dailyRate = RoundedFromACent(DailyRate(deposit.rate, deposit.factorDays));
-  double grown = deposit.balance;
-  for (int k = 0; k < *steps; ++k) grown += RoundedFromACent(dailyRate * grown * length);
-  return TermInterest{(grown - deposit.balance) * withdrawals, *steps * length * withdrawals};
+  double earned = 0;
+  for (int k = 0; k < *steps; ++k) {
+    earned += RoundedFromACent(dailyRate * (deposit.balance + earned) * length);
+  }
+  return TermInterest{earned * withdrawals, *steps * length * withdrawals};
 }
 
 Outcome<TermInterest> CompoundedByDaysWithdrawnMonthly(const AccountTerms& terms,

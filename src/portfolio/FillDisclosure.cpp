@@ -118,7 +118,7 @@ class Filling {
   }
 
   void TakeEntries() {
-    DisclosureCheck& check = filled_.check;
+    const DisclosureCheck& check = filled_.check;
     for (std::size_t row = 0; Goes() && row < rows_.size(); ++row) {
       const bool hasTwoEnds = check.setup.kind == AccountKind::TierB && row > 0;
       for (int end = hasTwoEnds ? 2 : 1; Goes() && end > 0; --end) {
@@ -160,7 +160,7 @@ class Filling {
   }
 
   /// A typed term closes the dates.
-  void TypeDates(DisclosureEntry& entry, const PortfolioRow& row) {
+  void TypeDates(DisclosureEntry& entry, const PortfolioRow& row) const {
     const bool open = TermDatesEnabled(filled_.check, entry.txtTerm);
     const bool typedOnce = !entry.tStartDate.enabled && !open;
     entry.tStartDate.enabled = entry.tEndDate.enabled = open;

@@ -92,12 +92,12 @@ void PortfolioSummary::TakeRow(const PortfolioRow& row, const RowOutcome& outcom
 ReportContent PortfolioSummary::Content(const std::string& files, const std::string& program,
                                         const std::string& moment) const {
   Rows counts;
-  const char* const checks[] = {"Disclosure, ", "Statement, "};
   for (std::size_t check = 0; check < counts_.size(); ++check) {
+    const std::string checked = check == 0 ? "Disclosure, " : "Statement, ";
     for (std::size_t kind = 0; kind < counts_[check].size(); ++kind) {
       const AccountCounts& ofKind = counts_[check][kind];
       const std::string name = AccountTypeHeading(static_cast<AccountKind>(kind));
-      if (ofKind.accounts > 0) counts.push_back(CountRow(checks[check] + name, ofKind));
+      if (ofKind.accounts > 0) counts.push_back(CountRow(checked + name, ofKind));
     }
   }
   counts.push_back(CountRow("All", total_));

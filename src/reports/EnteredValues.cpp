@@ -115,7 +115,7 @@ std::vector<Run> RunsOf(const DisclosureCheck& check, const std::vector<Column>&
 std::string EntriesHtml(const DisclosureCheck& check) {
   const std::vector<Column> columns = UsedColumns(check);
   std::vector<std::string> headings = {"Lines"};
-  for (const Column& column : columns) headings.push_back(column.heading);
+  for (const Column& column : columns) headings.emplace_back(column.heading);
   Rows rows;
   for (const auto& [first, last, cells] : RunsOf(check, columns)) {
     const std::string lines = std::to_string(first);

@@ -17,7 +17,7 @@ Date Today() {
   if (ChosenDate()) return *ChosenDate();
   const std::time_t now = std::time(nullptr);
   // The standard library of the oldest supported compiler has no time zones of its own.
-  const std::tm local = *std::localtime(&now);
+  const std::tm local = *std::localtime(&now);  // NOLINT(concurrency-mt-unsafe): one thread asks
   return Date{std::chrono::year{local.tm_year + 1900},
               std::chrono::month{static_cast<unsigned>(local.tm_mon + 1)},
               std::chrono::day{static_cast<unsigned>(local.tm_mday)}};

@@ -49,7 +49,7 @@ bool IsAscii(std::string_view text) {
   const char* at = text.data();
   std::size_t left = text.size();
   for (; left >= sizeof seen; left -= sizeof seen, at += sizeof seen) {
-    std::uint64_t eight;
+    std::uint64_t eight = 0;
     std::memcpy(&eight, at, sizeof eight);
     seen |= eight;
   }

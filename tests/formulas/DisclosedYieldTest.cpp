@@ -75,6 +75,19 @@ TEST(DisclosedYield, PeriodsThatEarnLessThanHalfACentCount) {
   EXPECT_DOUBLE_EQ(result.whole.apy, 0.10);
 }
 
+TEST(DisclosedYield, AnExactHalfOfACentIsKeptInALargeBalance) {
+  // Twelve times (2 at 5.75 % + 1,000 at 5 % + 10,000,000 at 5 %) for 30 days of 360: 500,050.115.
+  const AccountTerms monthly{.compounding = {Unit::Days, 30}, .withdrawal = Unit::Days, .year = {}};
+  const std::vector<Tier> tiers = {{0, 5.75}, {2, 5}};
+  const Deposit deposit{.balance = 10001002,
+                        .rate = 0,
+                        .term = 12,
+                        .factorDays = 360,
+                        .begin = {},
+                        .withdrawals = {12, 0}};
+  EXPECT_DOUBLE_EQ(std::get<Yield>(TieredYield(monthly, tiers, deposit)).interest, 500050.12);
+}
+
 TEST(DisclosedYield, TierEndsByMethodBAgreeWithTheReference) {
   for (const CaseRow& row : ReadCases("tiers.csv")) {
     SCOPED_TRACE(row.line);

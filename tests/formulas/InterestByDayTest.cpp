@@ -49,25 +49,15 @@ TEST(InterestByDay, EveryKindOfAccountAgreesWithTheReference) {
   }
 }
 
-TEST(InterestByDay, CompoundingEveryThirtyDaysAddsTheTotalOnDays31And61Only) {
-  StatementAccount account = AccountOfKind(Regular);
-  account.compoundingDays = 30;
-  const auto ofDay = InterestByDay(account, std::vector<double>(62, 1000), {}).interest.ofDay;
-  EXPECT_NEAR(ofDay[29], 0.1, 1e-12);
-  EXPECT_NEAR(ofDay[30], 0.0001 * 1003, 1e-12);
-  EXPECT_NEAR(ofDay[31], 0.1, 1e-12);
-  EXPECT_NEAR(ofDay[60], 0.0001 * (1000 + 3 + 3.0003), 1e-12);
-}
-
-TEST(InterestByDay, ADayBelowTheMinimumOrNegativeEarnsNothingWhateverTheAccount) {
-  for (AccountKind kind : {Regular, Stepped, TierA, TierB}) {
-    StatementAccount account = AccountOfKind(kind);
-    EXPECT_EQ(InterestByDay(account, {-900}, {5}).interest.total, 0) << "a debt costs nothing";
-    account.minimumDailyBalance = 500;
-    const auto ofDay = InterestByDay(account, {499.99, 500}, {5, 5}).interest.ofDay;
-    EXPECT_EQ(ofDay[0], 0);
-    EXPECT_GT(ofDay[1], 0);
+TEST(InterestByDay, AnAverageOfExactlyHalfACentGoesToTheEvenCent) {
+  // Ten days of each and six more of the last: 189,704,480.16 in 96 days are 1,976,088.335 a day.
+  std::vector<double> balances;
+  for (double balance :
+       {10000000.0, 5523.01, 3088835.58, 0.0, 5869298.51, -50.0, 1000.01, 0.0, 5190.9}) {
+    balances.insert(balances.end(), 10, balance);
   }
+  balances.insert(balances.end(), 6, 1000.01);
+  EXPECT_DOUBLE_EQ(AverageDailyBalance(balances), 1976088.34);
 }
 
 TEST(InterestByDay, ABalanceEqualToABoundBelongsToTheLowerTier) {

@@ -38,10 +38,15 @@ def cents(value):
     return value.quantize(Decimal("1e-20")).quantize(Decimal("0.01"), ROUND_HALF_EVEN)
 
 
-def near_half(value):
+def near_half(value, tolerance=Decimal("1e-5")):
     """True where the value is so close to a half, without being one, that rounding is open."""
     distance = abs((abs(value) * 100) % 1 - Decimal("0.5"))
-    return Decimal("1e-18") < distance < Decimal("1e-5")
+    return Decimal("1e-18") < distance < tolerance
+
+
+def intermediate(value):
+    """Rates and interest on the way are kept to 15 decimals."""
+    return value.quantize(Decimal("1e-15"), ROUND_HALF_EVEN)
 
 
 def month_length(month, year, leap):
@@ -57,12 +62,15 @@ def run_length(month, count, year, leap):
     return sum(month_length(m, year, leap) for m in months_from(month, count))
 
 
-def month_term_days(term, months, leap):
-    start = date(term.year, term.month, 1)
-    last = term.year * 12 + term.month - 1 + months
-    end = date(last // 12, last % 12 + 1, 1)
+def calendar_days(start, end, leap):
     leap_days = [date(y, 2, 29) for y in range(start.year, end.year + 1) if calendar.isleap(y)]
     return (end - start).days - (0 if leap else sum(start <= d <= end for d in leap_days))
+
+
+def month_term_days(term, months, leap):
+    last = term.year * 12 + term.month - 1 + months
+    start, end = date(term.year, term.month, 1), date(last // 12, last % 12 + 1, 1)
+    return calendar_days(start, end, leap)
 
 
 def interest_days(account, rate, term):
@@ -72,7 +80,7 @@ def interest_days(account, rate, term):
         each = (1 + daily * account.n) ** (term.length // term.w) - 1
         return each * term.w, term.length * account.n
     if account.withdrawal == "months":
-        total = Decimal(0)
+        daily, total = intermediate(daily), Decimal(0)
         for k in range(term.w):
             start = months_from(term.month, k * term.m + 1)[-1]
             days = run_length(start, term.m, term.year, account.leap)
@@ -87,7 +95,7 @@ def interest_months(account, rate, term):
         per_year = Decimal(12) / account.n
         growth = (1 + rate / 100 / per_year) ** (Decimal(days) / account.factor * per_year)
         return growth - 1, days
-    daily = rate / 100 / account.factor
+    daily = intermediate(rate / 100 / account.factor)
     total = Decimal(0)
     in_each = term.length // term.w
     for k in range(term.w):

@@ -12,13 +12,17 @@ RATES = [Decimal(r) for r in ("0.05", "5.25", "2.1234", "12.5")]
 BALANCES = [Decimal(b) for b in ("1000", "123456.78", "25", "8000")]
 
 
-def row(kind, account, rate, balance, term):
+def figures(account, rate, balance, term):
+    """Interest, APY (both exact) and the term as counted."""
     factor, counted = dy.interest(account, rate, term)
-    exact = balance * factor
-    earned = dy.cents(exact)
     years = account.unit == "years"
     exponent = Decimal(1) / (account.n * term.length) if years else Decimal(account.basis) / counted
-    exact_apy = dy.apy(earned, balance, exponent)
+    return balance * factor, dy.apy(dy.cents(balance * factor), balance, exponent), counted
+
+
+def row(kind, account, rate, balance, term):
+    exact, exact_apy, counted = figures(account, rate, balance, term)
+    earned = dy.cents(exact)
     if dy.near_half(exact) or dy.near_half(exact_apy):
         return None
     if account.unit == "days" and term.w > 1:

@@ -4,6 +4,7 @@ Written from Regulation DD, Appendix A, Part II, and the program's rules for int
 shares nothing with the program.
 """
 
+from dataclasses import dataclass, field
 from decimal import ROUND_HALF_EVEN, Decimal
 from itertools import product
 
@@ -42,43 +43,54 @@ def daily(percent, year):
     return rounded(Decimal(percent) / 100 / year, 15)
 
 
-def one_day(kind, balance, carried, step, year):
+@dataclass
+class Statement:
+    kind: str  # regular, stepped, tierA or tierB
+    method: str  # adb or daily
+    every: int  # days between compoundings, 0 for none
+    factor: int  # denominator of the daily rate factor
+    rate: Decimal = RATE  # of a regular account
+    tiers: list = field(default_factory=lambda: TIERS)  # lower bound and rate of each
+    minimum_adb: Decimal = Decimal(0)
+    minimum_daily: Decimal = Decimal(0)
+
+
+def one_day(account, balance, carried, step):
     """Interest of one day; carried is earlier interest that counts as balance."""
-    if kind == "regular":
-        return daily(RATE, year) * (balance + carried)
-    if kind == "stepped":
-        return daily(step, year) * (balance + carried)
-    if kind == "tierA":
-        rate = [r for above, r in TIERS if balance > Decimal(above) or above == "0"][-1]
-        return daily(rate, year) * (balance + carried)
+    if account.kind in ("regular", "stepped"):
+        rate = step if account.kind == "stepped" else account.rate
+        return daily(rate, account.factor) * (balance + carried)
+    if account.kind == "tierA":
+        rate = [r for above, r in account.tiers if balance > Decimal(above) or above == "0"][-1]
+        return daily(rate, account.factor) * (balance + carried)
     split = balance + carried
-    ceilings = [Decimal(above) for above, _ in TIERS[1:]] + [Decimal("Infinity")]
-    return sum(daily(rate, year) * max(min(split, top) - Decimal(above), Decimal(0))
-               for (above, rate), top in zip(TIERS, ceilings))
+    ceilings = [Decimal(above) for above, _ in account.tiers[1:]] + [Decimal("Infinity")]
+    return sum(daily(rate, account.factor) * max(min(split, top) - Decimal(above), Decimal(0))
+               for (above, rate), top in zip(account.tiers, ceilings))
 
 
-def earned(kind, day_balances, rates, every, year):
+def earned(account, day_balances, rates):
     """Sum over the earning days; on each day after a full period the sum so far earns too."""
-    total = Decimal(0)
+    total, every = Decimal(0), account.every
     for number, (balance, rate) in enumerate(zip(day_balances, rates), start=1):
         new_period = every > 0 and number > 1 and (number - 1) % every == 0
-        total += rounded(one_day(kind, balance, total if new_period else 0, rate, year), 15)
+        total += rounded(one_day(account, balance, total if new_period else 0, rate), 15)
     return total
 
 
-def interest(kind, method, minimums, pattern, days, every):
-    counted = [max(b, Decimal(0)) for b in balances(pattern)[:days]]
-    rates, year = step_rates()[:days], YEAR[pattern]
+def interest(account, day_balances, rates):
+    """Average daily balance and interest of the period."""
+    counted = [max(b, Decimal(0)) for b in day_balances]
+    days = len(counted)
     adb = rounded(sum(counted) / days, 2)
-    if method == "adb" and kind != "stepped":
-        if minimums in ("adb", "both") and adb < MINIMUM_ADB:
+    if account.method == "adb" and account.kind != "stepped":
+        if adb < account.minimum_adb:
             return adb, Decimal(0)
-        if every == 0:
-            return adb, rounded(one_day(kind, adb, 0, 0, year) * days, 15)
-        return adb, earned(kind, [adb] * days, rates, every, year)
-    floor = MINIMUM_DAILY if minimums in ("daily", "both") else Decimal(0)
-    earning = [(b, r) for b, r in zip(counted, rates) if b >= floor]
-    return adb, earned(kind, [b for b, _ in earning], [r for _, r in earning], every, year)
+        if account.every == 0:
+            return adb, rounded(one_day(account, adb, 0, 0) * days, 15)
+        return adb, earned(account, [adb] * days, rates)
+    earning = [(b, r) for b, r in zip(counted, rates) if b >= account.minimum_daily]
+    return adb, earned(account, [b for b, _ in earning], [r for _, r in earning])
 
 
 def apy(amount, balance, days, year):
@@ -101,7 +113,13 @@ def interest_rows():
     cases = product(["regular", "stepped", "tierA", "tierB"], ["adb", "daily"],
                     ["none", "adb", "daily", "both"], ["varied", "low"], DAYS, [0, 1, 30])
     for case in cases:
-        adb, amount = interest(*case)
+        kind, method, minimums, pattern, days, every = case
+        account = Statement(kind, method, every, YEAR[pattern])
+        if minimums in ("adb", "both"):
+            account.minimum_adb = MINIMUM_ADB
+        if minimums in ("daily", "both"):
+            account.minimum_daily = MINIMUM_DAILY
+        adb, amount = interest(account, balances(pattern)[:days], step_rates()[:days])
         yield [*case, adb, rounded(amount, 15)]
 
 

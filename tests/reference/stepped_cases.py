@@ -17,7 +17,7 @@ FIRST_RATES = [Decimal(r) for r in ("5", "5.5", "3.75", "6.1234", "0.25")]
 
 def period_factor(account, rate, term):
     if account.unit == "years":  # every year has 365 days
-        yearly = rate / 100 / account.factor * 365 * account.n
+        yearly = dy.intermediate(rate / 100 / account.factor) * 365 * account.n
         return (1 + yearly) ** term.length - 1, term.length
     return dy.interest(account, rate, term)
 
@@ -33,15 +33,20 @@ def exponent(account, units):
     return Decimal(account.basis) / (units * (account.n if account.unit == "days" else 1))
 
 
-def row(account, rates, balance, terms):
+def figures(account, rates, balance, terms):
+    """Interest of each period, APY (all exact) and the sum of the units."""
     builds = account.unit != "none" and account.withdrawal == "none"
     earned, units = [], 0
     for rate, term in zip(rates, terms):
         factor, counted = period_factor(account, rate, term)
         earned.append((balance + (sum(earned) if builds else 0)) * factor)
         units += units_of(account, term, counted)
+    return earned, dy.apy(dy.cents(sum(earned)), balance, exponent(account, units)), units
+
+
+def row(account, rates, balance, terms):
+    earned, exact_apy, units = figures(account, rates, balance, terms)
     total = sum(earned)
-    exact_apy = dy.apy(dy.cents(total), balance, exponent(account, units))
     if dy.near_half(total) or dy.near_half(exact_apy) or any(map(dy.near_half, earned)):
         return None
     join = lambda values: "/".join(str(v) for v in values)

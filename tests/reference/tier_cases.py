@@ -30,6 +30,13 @@ def exponent(account, term):
     return Decimal(basis) / (term.length * (account.n if account.unit == "days" else 1))
 
 
+def figures(account, term, rates, bounds, balance):
+    """Interest and APY, both exact, of a balance in tiers of these rates and upper bounds."""
+    total = sum(max(min(balance, top) - low, Decimal(0)) * dy.interest(account, rate, term)[0]
+                for low, top, rate in zip([Decimal(0)] + bounds, bounds + [balance], rates))
+    return total, dy.apy(dy.cents(total), balance, exponent(account, term))
+
+
 def row(account, term, count, tier, end):
     """The balance reaches `tier` (from 1): one cent above its lower bound, or its upper bound."""
     floor = [Decimal(0)] + BOUNDS[:count - 1]
@@ -38,10 +45,7 @@ def row(account, term, count, tier, end):
         balance = floor[tier - 1] + Decimal("0.01")
     else:
         balance = typed if tier == count else floor[tier]
-    tops = floor[1:tier] + [balance]
-    total = sum((top - low) * dy.interest(account, rate, term)[0]
-                for low, top, rate in zip(floor, tops, RATES))
-    exact_apy = dy.apy(dy.cents(total), balance, exponent(account, term))
+    total, exact_apy = figures(account, term, RATES[:count], BOUNDS[:count - 1], balance)
     if dy.near_half(total) or dy.near_half(exact_apy):
         return None
     join = lambda values: "/".join(str(v) for v in values)

@@ -138,7 +138,7 @@ void CalendarPopup::PressDay(const QPointF& place) {
 }
 
 bool CalendarPopup::picMonth_KeyDown(const QKeyEvent& press) {
-  const int months = press.modifiers() & Qt::ControlModifier ? kMonthsOfYear : 1;
+  const int months = press.modifiers().testFlag(Qt::ControlModifier) ? kMonthsOfYear : 1;
   switch (press.key()) {
     case Qt::Key_Right:
       MoveTo(AddDays(current_, 1));
