@@ -180,7 +180,7 @@ void LayOutPage(QWidget& window) {
 }
 
 QSize PageSize(const QWidget& window) {
-  constexpr QSize kCharacters(140, 47);
+  constexpr QSize kCharacters(140, 51);
   const QFontMetrics metrics(window.font());
   return {kCharacters.width() * metrics.averageCharWidth(),
           kCharacters.height() * metrics.lineSpacing()};
