@@ -91,7 +91,8 @@ Steps Tiers(const QString& option, const QStringList& balances, const char* tabl
     const char* picture = isFirst ? entry : balance == balances.back() ? last : nullptr;
     // The term of the first entry is that of all.
     const QString term = isFirst ? "[txtTerm]365" : "";
-    steps.push_back({term + "[txtBal]" + balance + "[txtDiscAPY]10.65\t", picture});
+    const QString typed = balance.isEmpty() ? "" : "[txtBal]" + balance;
+    steps.push_back({term + typed + "[txtDiscAPY]10.65\t", picture});
     steps.push_back({"[cmdNext] "});
   }
   steps.push_back({"", results});
@@ -164,7 +165,7 @@ Steps EveryWindow() {
   for (const Steps& more :
        {Tiers("optTierA", {"1000", "150000000000", "5"}, "tiers-a", "entry-tier-a",
               "entry-tier-a-last", "results-tier-a"),
-        Tiers("optTierB", {"1000"}, "tiers-b", "entry-tier-b", nullptr, "entry-tier-b-2"),
+        Tiers("optTierB", {""}, "tiers-b", "entry-tier-b", nullptr, "entry-tier-b-2"),
         Days(1, "days-1", nullptr), Steps{{"&c", "statement-1"}, {"&m"}},
         Days(31, "days-31", nullptr),
         Results("statement-31", "statement-results", "interest-report"), Steps{{"&m"}},

@@ -68,7 +68,9 @@ std::string_view TextOf(const CheckedRow& row, TableColumn column) {
 
 bool Holds(std::string_view text, std::string_view part) {
   const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-  return !std::ranges::search(text, part, {}, lower, lower).empty() || part.empty();
+  const auto same = [&lower](char a, char b) { return lower(a) == lower(b); };
+  const auto found = std::search(text.begin(), text.end(), part.begin(), part.end(), same);
+  return found != text.end() || part.empty();
 }
 
 /// Of two rows the one that stands first in a column of numbers; none last, whatever the order.

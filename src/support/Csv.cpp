@@ -269,7 +269,7 @@ void AppendCsvCell(std::string& line, std::string_view text, char separator) {
 CsvReader::Source CsvSourceOf(std::string_view text) {
   return [text](std::span<char> block) mutable {
     const std::size_t count = std::min(block.size(), text.size());
-    std::memcpy(block.data(), text.data(), count);
+    std::copy_n(text.begin(), count, block.begin());
     text.remove_prefix(count);
     return count;
   };

@@ -221,9 +221,10 @@ class RandomAccount {
     const Date start = *ParseDate("02-27-2024");
     std::vector<DayEntry> typed;
     for (int day = 0; day < std::max(count, 1); ++day) {
-      const DayEntry& entry = typed.emplace_back(
-          random_() % 99 == 0 ? Pick({"x", ""}) : Pick({"1000", "0", "-5", "723.5"}),
-          Pick({"2.5", "3"}));
+      const bool isSlip = random_() % 99 == 0;
+      const std::string balance = isSlip ? Pick({"x", ""}) : Pick({"1000", "0", "-5", "723.5"});
+      const DayEntry entry{balance, Pick({"2.5", "3"})};
+      typed.push_back(entry);
       balances += name_ + "," + FormatDate(AddDays(start, day)) + "," + entry.balance + "," +
                   entry.rate + "\n";
     }
