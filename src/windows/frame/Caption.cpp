@@ -34,8 +34,8 @@ QSize Caption::sizeHint() const {
 void Caption::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   const auto draw = [&](Qt::Alignment side, const QString& words) {
-    painter.drawItemText(contentsRect(), side | Qt::AlignVCenter | Flags(), palette(), isEnabled(),
-                         words, foregroundRole());
+    const int flags = static_cast<int>((side | Qt::AlignVCenter).toInt()) | Flags();
+    painter.drawItemText(contentsRect(), flags, palette(), isEnabled(), words, foregroundRole());
   };
   draw(Qt::AlignLeft, Words());
   if (EndsInColon()) draw(Qt::AlignRight, ":");

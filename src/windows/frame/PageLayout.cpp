@@ -109,7 +109,7 @@ bool AreLabels(const QWidgetList& column) {
 constexpr int kSharedColumns = 2;
 
 void AlignColumns(QWidget& window) {
-  std::array<int, kSharedColumns> shared{};
+  QList<int> shared(kSharedColumns, 0);
   QList<QGridLayout*> grids = window.findChildren<QGridLayout*>();
   grids.removeIf([](const QGridLayout* grid) { return !AreLabels(ColumnOf(*grid, 0)); });
   for (auto* grid : grids) {
