@@ -38,10 +38,8 @@ class ReportWindows : public WindowTest {
   }
 };
 
-/// Whether a screen reader finds the text below a part. What the browser's engine makes has no
-/// types that the sanitizers could check.
-[[gnu::no_sanitize("vptr")]] bool IsReadable(const QAccessibleInterface* part,
-                                             const QString& text) {
+/// Whether a screen reader finds the text below a part.
+bool IsReadable(const QAccessibleInterface* part, const QString& text) {
   if (!part || !part->isValid()) return false;
   if (part->text(QAccessible::Name).contains(text)) return true;
   for (int index = 0; index < part->childCount(); ++index) {
