@@ -21,7 +21,8 @@ bool IsDayHeader(std::string_view line) {
   if (!DayReader(CsvSourceOf(line)).Refusal().empty()) return false;
   CsvReader csv(CsvSourceOf(line));
   const PortfolioHeader header = HeaderOf(csv.Next()->cells, csv.Separator());
-  const auto known = std::ranges::count_if(header.places, [](auto& place) { return !!place; });
+  const auto known =
+      std::ranges::count_if(header.places, [](const auto& place) { return !!place; });
   const bool hasRate = header.places[static_cast<std::size_t>(Column::Rate)].has_value();
   return known == (hasRate ? 3 : 2);
 }

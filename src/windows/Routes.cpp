@@ -29,21 +29,23 @@ void Routes::Go() {
   windows_.CloseOtherMainWindows(windows_.Show<Window>());
 }
 
+template <class Window>
+void Routes::GoTelling(const std::string& told) {
+  Go<Window>();
+  if (!told.empty()) windows_.Get<Window>().ShowHint(told);
+}
+
 template <class Setup, class Entry, class Results>
 void Routes::GoTo(const OpenedCheck& opened) {
-  const auto go = [&]<class Window>(std::type_identity<Window>) {
-    Go<Window>();
-    if (!opened.told.empty()) windows_.Get<Window>().ShowHint(opened.told);
-  };
   switch (opened.stage) {
     case CheckStage::Setup:
-      return go(std::type_identity<Setup>());
+      return GoTelling<Setup>(opened.told);
     case CheckStage::TierTable:
-      return go(std::type_identity<TierTableWindow>());
+      return GoTelling<TierTableWindow>(opened.told);
     case CheckStage::Entry:
-      return go(std::type_identity<Entry>());
+      return GoTelling<Entry>(opened.told);
     case CheckStage::Results:
-      return go(std::type_identity<Results>());
+      return GoTelling<Results>(opened.told);
   }
 }
 

@@ -123,7 +123,7 @@ bool PutAwayDialog() {
   return true;
 }
 
-Person::Person(WindowRegistry& windows) : windows_(windows) {
+Person::Person() {
   SetMessageBoxObserver([this](QMessageBox& box) { AnswerBox(box); });
   SetSaveAnswer([this](const SaveQuestion& question) -> std::optional<QString> {
     if (answers_ % 3 == 0) return std::nullopt;

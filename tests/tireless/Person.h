@@ -13,7 +13,7 @@ namespace corvane {
 /// dialogs are answered as an act's number has it.
 class Person {
  public:
-  explicit Person(WindowRegistry& windows);
+  Person();
   ~Person();
 
   void Do(const Act& act);
@@ -40,7 +40,6 @@ class Person {
   static void Press(QWidget* receiver, int key, Qt::KeyboardModifiers modifiers);
   void AnswerBox(QMessageBox& box) const;
 
-  WindowRegistry& windows_;
   Form* front_ = nullptr;
   std::uint32_t answers_ = 0;
 };

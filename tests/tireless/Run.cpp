@@ -51,7 +51,7 @@ class Runner {
   void RunProgram() {
     Session session;
     WindowRegistry windows(session);
-    Person person(windows);
+    Person person;
     session_ = &session;
     windows_ = &windows;
     person_ = &person;

@@ -17,6 +17,8 @@ class EntrySurroundings {
  public:
   /// Once the window loads. A choice of an earlier entry presses Back as often as it takes.
   EntrySurroundings(Form& window, const Session& session, QAbstractButton& back);
+  EntrySurroundings(const EntrySurroundings&) = delete;
+  EntrySurroundings& operator=(const EntrySurroundings&) = delete;
 
   /// The check has come to another entry.
   void ShowCheck() const;

@@ -68,6 +68,8 @@ class Routes {
   /// Shows a main window in place of the one that is left.
   template <class Window>
   void Go();
+  template <class Window>
+  void GoTelling(const std::string& told);
   /// Shows the window that an opened check stands at, with what was told of it.
   template <class Setup, class Entry, class Results>
   void GoTo(const OpenedCheck& opened);
