@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <utility>
+
 #include <QApplication>
 #include <QEventLoop>
 #include <QThread>
@@ -18,6 +20,7 @@ WindowRegistry::WindowRegistry(Session& session) : session_(session) {
 }
 
 WindowRegistry::~WindowRegistry() {
+  for (Form* form : closed_) delete form;
   while (!open_.empty()) {
     Form* form = open_.back().form;
     open_.pop_back();
@@ -63,6 +66,7 @@ void WindowRegistry::PlaceBeforeShowing(Form& form) {
 
 void WindowRegistry::BringToFront(Form& form) {
   if (ended_) return;
+  DeleteClosed();
   if (!form.isVisible()) PlaceBeforeShowing(form);
   form.show();
   form.raise();
@@ -95,8 +99,15 @@ void WindowRegistry::Close(Form& form) {
   if (ended_) return;
   std::erase_if(open_, [&form](const Entry& entry) { return entry.form == &form; });
   Unload(form);
-  // The form may be inside one of its own handlers.
-  form.deleteLater();
+  closed_.push_back(&form);
+  DeleteClosed();
+}
+
+void WindowRegistry::DeleteClosed() {
+  // A handler of the form may be waiting for a box or a window that keeps its own loop of events.
+  if (QThread::currentThread()->loopLevel() > 1) return;
+  // Or it is the one that closes it.
+  for (Form* form : std::exchange(closed_, {})) form->deleteLater();
 }
 
 void WindowRegistry::Unload(Form& form) {

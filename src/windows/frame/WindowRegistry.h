@@ -89,11 +89,14 @@ class WindowRegistry {
   /// Main windows follow each other as the pages of one window: same place, same size.
   void PlaceBeforeShowing(Form& form);
   void BringToFront(Form& form);
+  /// Once none of their handlers can be waiting.
+  void DeleteClosed();
 
   Session& session_;
   Routes routes_{*this};
   PressGuard presses_;
   std::vector<Entry> open_;         ///< oldest first
+  std::vector<Form*> closed_;       ///< that still have to be deleted
   std::vector<const Form*> modal_;  ///< whose loops run, the innermost last
   bool ended_ = false;
 };
