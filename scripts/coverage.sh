@@ -5,6 +5,8 @@
 set -eu
 cd "$(dirname "$0")/.."
 
+# Where it stops, gcovr leaves its files here.
+trap 'rm -f ./*.gcov' EXIT
 build=${1:-build/coverage}
 folders="support formulas account disclosure statement reports portfolio"
 targets=corvane-check
