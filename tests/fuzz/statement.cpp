@@ -13,7 +13,7 @@ constexpr Date kToday{std::chrono::year(2024), std::chrono::month(1), std::chron
 void EnterDays(StatementCheck& check, FuzzedDataProvider& input) {
   const StatementCheck before = check;
   const auto column = input.ConsumeBool() ? BalanceColumn::Ledger : BalanceColumn::Collected;
-  if (StartCompute(check, column).refusal) return;
+  if (!BasisUses(check.entry.basis, column) || StartCompute(check, column).refusal) return;
   DailyBalances daily = DaysOf(check, column, kToday);
   DEMAND(daily.days.size() >= 1 && daily.days.size() <= kLongestPeriod);
   for (int act = input.ConsumeIntegralInRange(0, 9); act > 0; --act) {
