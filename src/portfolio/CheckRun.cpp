@@ -72,9 +72,9 @@ bool CheckRun::TakeHeader(const std::string& name, const PortfolioHeader& header
   return results_.Write(text);
 }
 
-bool CheckRun::Take(const CheckedBatch& batch, const AccountReader& reader) {
+bool CheckRun::Take(const CheckedBatch& batch) {
   summary_.Take(batch);
-  progress_.Show(summary_.RowCount(), bytesBefore_ + reader.BytesRead());
+  progress_.Show(summary_.RowCount(), bytesBefore_ + batch.bytesRead);
   return results_.Write(batch.text);
 }
 
@@ -82,7 +82,7 @@ bool CheckRun::CheckRows(const std::string& name, InputFile& input) {
   AccountReader reader(input.Source(), days_.get());
   if (!input.Error() && !TakeHeader(name, reader.Header())) return false;
   RunPortfolio(reader, arguments_.run, cancel_,
-               [&](const CheckedBatch& batch) { return Take(batch, reader); });
+               [&](const CheckedBatch& batch) { return Take(batch); });
   bytesBefore_ += reader.BytesRead();
   if (!cancel_) TellNotes(name, reader.Notes());
   return !input.Error() || Tell(name, input.Error()->reason);

@@ -39,7 +39,7 @@ class CheckRun {
   bool CheckFile(const std::string& name);
   bool CheckRows(const std::string& name, InputFile& input);
   bool TakeHeader(const std::string& name, const PortfolioHeader& header);
-  bool Take(const CheckedBatch& batch, const AccountReader& reader);
+  bool Take(const CheckedBatch& batch);
   void TellNotes(const std::string& name, const std::vector<FileNote>& notes);
   bool Tell(const std::string& name, const std::string& what);
   bool Finish();

@@ -42,7 +42,8 @@ class Run {
     }
     RunPortfolio(reader, {.threads = threads}, cancel_, [&](const CheckedBatch& batch) {
       end.summary.Take(batch);
-      take(std::make_shared<CheckedPart>(batch, reader.Header()), ProgressOf(reader, end.summary));
+      take(std::make_shared<CheckedPart>(batch, reader.Header()),
+           ProgressOf(batch.bytesRead, end.summary));
       return true;
     });
     for (const auto& [line, text] : reader.Notes()) TellNote(end, line, text);
@@ -64,9 +65,9 @@ class Run {
     return FileNotRead({files_.balances, days_->Refusal()});
   }
 
-  FileCheckProgress ProgressOf(const AccountReader& reader, const PortfolioSummary& summary) const {
+  FileCheckProgress ProgressOf(std::size_t bytesRead, const PortfolioSummary& summary) const {
     const auto size = static_cast<double>(std::max<std::size_t>(1, accounts_.Size()));
-    return {summary.Total(), std::min(1.0, static_cast<double>(reader.BytesRead()) / size)};
+    return {summary.Total(), std::min(1.0, static_cast<double>(bytesRead) / size)};
   }
 
   void TellNote(FileCheckEnd& end, std::size_t line, const std::string& text) const {

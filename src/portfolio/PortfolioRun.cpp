@@ -41,6 +41,8 @@ void RunPortfolio(AccountReader& reader, const RunOptions& options, const std::a
         const bool goes = !stopped && !cancel && reader.Read(batch->accounts, kRowsOfBatch);
         // A source that is cancelled may end in the middle of a row.
         if (!goes || cancel) control.stop();
+        // The reader goes on while the batch is taken, so the batch itself says how far it reaches.
+        batch->bytesRead = reader.BytesRead();
         return batch;
       });
   const auto check = tbb::make_filter<Batch, Batch>(filter_mode::parallel, [&](Batch batch) {

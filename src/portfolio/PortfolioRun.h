@@ -13,6 +13,7 @@ struct CheckedBatch {
   AccountBatch accounts;
   std::vector<AccountOutcome> outcomes;  ///< one for each account
   std::string text;                      ///< the rows as the run writes them
+  std::size_t bytesRead = 0;             ///< of the file, up to the batch's end
 
   /// Empties it, keeping its memory for the next accounts.
   void Clear() {
