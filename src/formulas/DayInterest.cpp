@@ -36,9 +36,9 @@ double DayInterest::Of(double balance, double carried, double steppedRate) const
     case AccountKind::TierA:
       return dailyRates_[TierOfBalance(account_.tiers, balance)] * (balance + carried);
     case AccountKind::TierB:
-      return OverTiers(balance + carried);
+      break;
   }
-  return 0;
+  return OverTiers(balance + carried);
 }
 
 double DayInterest::OverTiers(double balance) const {

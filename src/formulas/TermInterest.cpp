@@ -55,9 +55,9 @@ Outcome<TermInterest> InterestOfTerm(const AccountTerms& terms, const Deposit& d
     case Unit::Months:
       return InterestByMonths(terms, deposit);
     case Unit::Years:
-      return TermInterest{balance * GrowthOf(rate * 0.01 * terms.compounding.length, term), term};
+      break;
   }
-  return Failure::NotComputable;
+  return TermInterest{balance * GrowthOf(rate * 0.01 * terms.compounding.length, term), term};
 }
 
 double GrowthByDays(const AccountTerms& terms, const Deposit& deposit) {

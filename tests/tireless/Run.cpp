@@ -26,8 +26,10 @@ qint64 LongestAct() {
   static const int given = qEnvironmentVariableIntValue("CORVANE_LONGEST_ACT");
   return given > 0 ? given : 1000;
 }
-constexpr long kMostGrowth = 40;  // MiB in a thousand acts, once all has been used once
 constexpr std::size_t kActsBetweenWeighing = 1000;
+/// What so many weighings have in common is no buffer of the browser that comes and goes.
+constexpr std::size_t kWeighings = 10;
+constexpr long kMostGrowth = 15;  // MiB from their least to that of the next ones
 
 long ResidentMiB() {
   long pages = 0;
@@ -107,12 +109,17 @@ class Runner {
   void Weigh() {
     weighed_ = next_;
     const long now = ResidentMiB();
-    if (next_ > 2 * kActsBetweenWeighing && now - memory_ > kMostGrowth) {
-      fault_ =
-          "memory grew from " + std::to_string(memory_) + " to " + std::to_string(now) + " MiB";
-    }
-    memory_ = now;
     std::cout << next_ << " acts, " << now << " MiB" << std::endl;
+    memory_.push_back(now);
+    if (memory_.size() < 2 * kWeighings) return;
+    const auto middle = memory_.begin() + kWeighings;
+    const long before = *std::min_element(memory_.begin(), middle);
+    const long since = *std::min_element(middle, memory_.end());
+    if (since - before > kMostGrowth) {
+      fault_ = "memory grew from " + std::to_string(before) + " to " + std::to_string(since) +
+               " MiB in " + std::to_string(kWeighings * kActsBetweenWeighing) + " acts";
+    }
+    memory_.erase(memory_.begin(), middle);
   }
 
   /// An act that never comes back is told too.
@@ -140,8 +147,8 @@ class Runner {
   std::atomic<std::size_t> next_ = 0;
   std::size_t started_ = 0;
   std::size_t weighed_ = 0;
-  int actingIn_ = -1;  ///< the loop of events that an act was begun in
-  long memory_ = 0;
+  int actingIn_ = -1;         ///< the loop of events that an act was begun in
+  std::vector<long> memory_;  ///< MiB, as weighed
   std::string fault_;
   QElapsedTimer clock_;
   std::vector<Timed> slowest_;
