@@ -69,6 +69,9 @@ WrittenReport WriteReport(const std::filesystem::path& templateFile,
   const auto source = ReadTemplate(templateFile, content);
   if (const auto* error = std::get_if<FileError>(&source)) return {{}, {ReportNotWritten(*error)}};
   const FilledTemplate filled = FillTemplate(LinesOf(std::get<std::string>(source)), content);
+  if (filled.isTooLarge) {
+    return {{}, {ReportNotWritten({templateFile, "The report would be larger than 64 MiB"})}};
+  }
   WrittenReport report = {{}, UnknownTags(filled.unknownTags)};
   if (const auto error = WriteWholeFile(output, TextOf(filled.lines))) {
     report.messages.push_back(ReportNotWritten(*error));

@@ -15,18 +15,25 @@ class Filling {
   FilledTemplate Of(const std::vector<std::string>& templateLines) {
     for (auto line = templateLines.begin(); line != templateLines.end(); ++line) {
       if (WriteRowsFor(*line) && ++line == templateLines.end()) break;
-      report_.lines.push_back(FilledLine(*line));
+      Write(FilledLine(*line));
+      if (report_.isTooLarge) break;
     }
     return std::move(report_);
   }
 
  private:
+  void Write(std::string line) {
+    size_ += line.size();
+    report_.isTooLarge = size_ > kLargestReport;
+    report_.lines.push_back(std::move(line));
+  }
+
   /// Writes the rows when the line holds a marker; false when it holds none.
   bool WriteRowsFor(const std::string& line) {
     for (std::size_t i = 0; i < content_.rows.size(); ++i) {
       if (line.find(content_.rows[i].marker) == std::string::npos) continue;
       for (std::string& row : content_.rows[i].rows(++occurrences_[i])) {
-        report_.lines.push_back(std::move(row));
+        Write(std::move(row));
       }
       return true;
     }
@@ -60,6 +67,7 @@ class Filling {
   const ReportContent& content_;
   std::vector<int> occurrences_;
   FilledTemplate report_;
+  std::size_t size_ = 0;
 };
 
 }  // namespace

@@ -43,7 +43,12 @@ struct ReportContent {
 struct FilledTemplate {
   std::vector<std::string> lines;        ///< the report, one entry per line
   std::vector<std::string> unknownTags;  ///< in order of occurrence, repetitions included
+  bool isTooLarge = false;               ///< the report ends where it reached kLargestReport
 };
+
+/// Bytes, far more than any report has for a reason: a template of a million markers is refused
+/// before its rows fill the memory.
+inline constexpr std::size_t kLargestReport = std::size_t{64} << 20;
 
 /// A line takes at most this many replacements, so that a typed text which names its own tag
 /// cannot keep a report busy for ever; what is left of the line is then literal.

@@ -17,7 +17,8 @@ class ReportFile : public testing::Test {
   const TemporaryFolder folder_;
   const std::filesystem::path template_ = folder_.Path() / "template.txt";
   const std::filesystem::path output_ = folder_.Path() / "report.html";
-  const ReportContent content_ = {{{"^tag^", {"1"}}}, {SameRows(kRowMarker, {"row"})}};
+  const ReportContent content_ = {{{"^tag^", {"1"}}, {"^long^", {std::string(500, 'x')}}},
+                                  {SameRows(kRowMarker, {"row"})}};
 };
 
 TEST_F(ReportFile, EveryLineEndsInCrLfAndEveryUnknownTagIsTold) {
@@ -40,8 +41,12 @@ TEST_F(ReportFile, TheLastMessageNamesThePathAndTheReasonOfAFailure) {
   const auto rowless = folder_.Path() / "rowless.txt";
   const auto binary = folder_.Path() / "binary.txt";
   const auto huge = folder_.Path() / "huge.txt";
+  const auto greedy = folder_.Path() / "greedy.txt";
   WriteWholeFile(rowless, "^tag^");
   WriteWholeFile(huge, "^datarow^\n");
+  std::string rows;
+  for (int row = 0; row < 200'000; ++row) rows += "^datarow^\n^long^\n";
+  WriteWholeFile(greedy, rows);
   std::filesystem::resize_file(huge, kLargestFile + 1);
   WriteWholeFile(binary, std::string("^datarow^\0", 10));
   const struct {
@@ -54,6 +59,7 @@ TEST_F(ReportFile, TheLastMessageNamesThePathAndTheReasonOfAFailure) {
       {rowless, output_, rowless, "The template holds no data row"},
       {binary, output_, binary, "The template is no text file"},
       {huge, output_, huge, "The file is larger than 4 MiB"},
+      {greedy, output_, greedy, "The report would be larger than 64 MiB"},
       {template_, "report.html", "report.html", "There is no documents folder"},
   };
   for (const auto& [source, target, named, reason] : cases) {
