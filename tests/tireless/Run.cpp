@@ -41,6 +41,7 @@ long ResidentMiB() {
 struct Timed {
   qint64 milliseconds;
   std::size_t act;
+  std::string windows;  ///< in front before and after the act
 };
 
 class Runner {
@@ -80,6 +81,7 @@ class Runner {
     QTimer::singleShot(0, qApp, [this] { Step(); });
     if (PutAwayDialog()) return;
     const std::size_t act = next_++;
+    from_ = FrontName();
     clock_.start();
     started_ = act;
     const int before = std::exchange(actingIn_, loops);
@@ -97,7 +99,7 @@ class Runner {
   void Finished(std::size_t act) {
     if (act != started_ || !clock_.isValid()) return;
     const bool waited = acts_[act].deed == Deed::Wait;
-    if (!waited) slowest_.push_back({clock_.elapsed(), act});
+    if (!waited) slowest_.push_back({clock_.elapsed(), act, from_ + " -> " + FrontName()});
     if (!waited && clock_.elapsed() > LongestAct()) {
       fault_ = "held the windows for " + std::to_string(clock_.elapsed()) + " ms";
     }
@@ -105,6 +107,11 @@ class Runner {
     std::sort(slowest_.begin(), slowest_.end(),
               [](const Timed& a, const Timed& b) { return a.milliseconds > b.milliseconds; });
     if (slowest_.size() > 10) slowest_.resize(10);
+  }
+
+  std::string FrontName() const {
+    const Form* front = windows_ ? person_->Front(0) : nullptr;
+    return front ? front->objectName().toStdString() : "";
   }
 
   static long LeastOf(std::vector<long>::const_iterator first) {
@@ -141,7 +148,8 @@ class Runner {
   int Result() const {
     if (!fault_.empty()) std::cerr << "act " << next_ << ": " << fault_ << std::endl;
     for (const Timed& timed : slowest_) {
-      std::cout << timed.milliseconds << " ms: " << TextOf(acts_[timed.act]) << std::endl;
+      std::cout << timed.milliseconds << " ms: " << TextOf(acts_[timed.act]) << "  "
+                << timed.windows << std::endl;
     }
     return fault_.empty() ? 0 : 1;
   }
@@ -149,6 +157,7 @@ class Runner {
   const std::vector<Act>& acts_;
   std::atomic<std::size_t> next_ = 0;
   std::size_t started_ = 0;
+  std::string from_;
   std::size_t weighed_ = 0;
   int actingIn_ = -1;         ///< the loop of events that an act was begun in
   std::vector<long> memory_;  ///< MiB, as weighed
