@@ -83,6 +83,31 @@ TEST(PortfolioRun, RefusesFilesThatHaveNoUsableHeader) {
   for (const auto& [text, refusal] : cases) EXPECT_EQ(RunText(text), refusal);
 }
 
+TEST(PortfolioRun, TypesCellsAsAPersonWouldAndRefusesWhatHasNoPlace) {
+  const std::string file =
+      "account,check,kind,compounding,every,disclosed_apy,balance,rate,not_exceeding,term,end_"
+      "date\n"
+      "A,,,,,5.39%,\" $1,000.00 \",5.25%,0,365,\n"
+      "B,,,,,5.39,1000.005,5.25,,365,\n"
+      "C,,steped,,,5.39,1000,5.25,,365,\n"
+      "D,,,,,5.39,\"1.000,00\",5.25,,365,\n"
+      "E,,,,,5.39,1000,5.25,2500,365,\n"
+      "F,,,none,7,5.39,1000,5.25,,365,\n"
+      "G,,tier-a,,,5.39,1000,5.25,2500,365,\nG,,tier-a,,,5.39,3000,5.5,9000,365,\n"
+      "H,,tier-a,,,5.39,1000,5.25,2500,365,\n"
+      "I,,,,,5.39,1000,5.25,,,02-30-2024\n";
+  EXPECT_EQ(
+      Told(RunText(file)),
+      "A OK ;B OK Balance allows a maximum of 2 decimal places, Your entry has been truncated;"
+      "C REFUSED Line 4: The column kind has to be one of: regular, stepped, tier-a, tier-b.;"
+      "D REFUSED Line 5: Please enter a valid Principal Balance Amount;"
+      "E REFUSED Line 6: The column not_exceeding has to be empty for this account.;"
+      "F REFUSED Line 7: The column every has to be empty or 1 here.;"
+      "G REFUSED ;G REFUSED Line 9: The column not_exceeding has to be empty for this account.;"
+      "H REFUSED Line 10: Please enter a Tier number from 2 to 10 only.;"
+      "I REFUSED Line 11: Starting Date is invalid, Please correct;");
+}
+
 TEST(PortfolioRun, CarriesOtherCellsThroughAsTheyStandAndReplacesResults) {
   const std::string file =
       "\"account\";verdict;rate;balance;term;disclosed_apy;\"my;remark\"\r\n"

@@ -68,6 +68,8 @@ TEST_F(PortfolioWindowTest, AHundredThousandAccountsShowWhileTheyAreReadAndAreSo
   EXPECT_EQ(shown(0, 1), "A100") << "the greatest difference below 0 first, in the file's order";
   sort(5);
   EXPECT_EQ(shown(0, 1), "A1");
+  sort(1);
+  EXPECT_EQ(shown(kAccounts - 1, 1), "A99999") << "names are sorted as texts";
   Type("txtFilter", "a9999");
   EXPECT_TRUE(QTest::qWaitFor([&] { return table->model()->rowCount() == 11; }));
   Type("cboVerdict", "APY");

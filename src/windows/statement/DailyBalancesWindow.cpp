@@ -47,8 +47,9 @@ void DailyBalancesWindow::BindFields() {
     FitToDigits(*rate, DayGrid::kRateDigits);
     for (QLineEdit* field : {balance, rate}) {
       SelectTextOnFocus(field);
-      OnLostFocus(field,
-                  [this, field](const QString&) { Field_LostFocus(*grid_->PlaceOf(field)); });
+      OnLostFocus(field, [this, field](const QString&) {
+        if (const auto place = grid_->PlaceOf(field)) Field_LostFocus(*place);
+      });
     }
   }
 }

@@ -78,16 +78,18 @@ QLineEdit* DayGrid::FieldAt(const DayPlace& place) const {
 }
 
 std::optional<DayPlace> DayGrid::PlaceOf(const QObject* field) const {
-  std::size_t day = FirstDay();
-  for (const Row& row : rows_) {
+  if (!daily_) return std::nullopt;
+  const DaySpan span = DaysOnPage(page_, daily_->days.size());
+  for (std::size_t day = span.first; day < span.end; ++day) {
+    const Row& row = rows_[day - span.first];
     if (field == row.balance || field == row.rate) return DayPlace{day, field == row.rate};
-    ++day;
   }
   return std::nullopt;
 }
 
 void DayGrid::ShowPage(int page) {
   page_ = page;
+  if (PageOf(place_.day) != page) place_ = {FirstDay()};
   for (std::size_t row = 0; row < rows_.size(); ++row) ShowRow(row);
   const DaySpan span = DaysOnPage(page, daily_->days.size());
   for (int column = 0; column < kColumns; ++column) {

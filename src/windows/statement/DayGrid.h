@@ -36,9 +36,9 @@ class DayGrid : public QObject {
 
   const std::array<Row, kDaysPerPage>& Rows() const { return rows_; }
   QLineEdit* FieldAt(const DayPlace& place) const;
-  /// The place of a field of the page; nothing for any other object.
+  /// The place of a field of the page; nothing for any other object, nor for a field without a day.
   std::optional<DayPlace> PlaceOf(const QObject* field) const;
-  /// The place of the field that has or last had the focus.
+  /// The place of the field of the page that has or last had the focus, else its first.
   const DayPlace& Place() const { return place_; }
 
   /// The days to work on, which have to outlive the grid's use.
