@@ -84,6 +84,8 @@ TEST(DisclosureCalculation, SteppedAccountsAgreeWithTheReference) {
     }
     EXPECT_NEAR(check.result->interest, row.Number("interest"), 1e-9);
     EXPECT_NEAR(*rows.back().apy, row.Number("apy"), 1e-9);
+    check.entries.back().txtDailyRateFactor.text = "1/360";
+    EXPECT_EQ(ResultSoFar(check)->factorDays, 360) << "of the newest period";
   }
 }
 

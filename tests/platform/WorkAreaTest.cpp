@@ -17,5 +17,17 @@ TEST(WorkArea, CentersFromTheScreensCornerUnlessTheWindowDoesNotFit) {
   for (const auto& c : cases) EXPECT_EQ(CenteredPlace(area, c.window), c.place);
 }
 
+TEST(WorkArea, AWindowStandsBelowOrAboveThePointThatItBelongsTo) {
+  QWidget window;
+  window.resize(200, 200);
+  const QRect area = WorkArea(window);
+  for (const QPoint& point : {area.topLeft(), area.center(), area.bottomRight() - QPoint(9, 99)}) {
+    PlaceBeside(window, point);
+    const QRect place(window.pos(), window.size());
+    EXPECT_TRUE(area.contains(place)) << point.y();
+    EXPECT_TRUE(place.top() > point.y() || place.bottom() < point.y()) << point.y();
+  }
+}
+
 }  // namespace
 }  // namespace corvane

@@ -9,6 +9,7 @@
 #include "disclosure/DisclosureCalculation.h"
 #include "disclosure/EntrySequence.h"
 #include "portfolio/CheckRows.h"
+#include "portfolio/DayRows.h"
 #include "portfolio/FileCheck.h"
 #include "support/WholeFile.h"
 
@@ -74,6 +75,14 @@ TEST(AddToFile, AddsAChecksRowsToAFileOfItsColumnsAloneInItsLineEnds) {
     EXPECT_EQ(last.at("institution"), "A, B");
     EXPECT_EQ(last.at("computed_apy") + last.at("verdict"), "5.39OK");
   }
+}
+
+TEST(AddToFile, ANumberThatOnlyTheDaysBesideHaveIsTaken) {
+  const TemporaryFolder folder;
+  const auto file = folder.Path() / "checks.csv";
+  WriteWholeFile(BalancesBeside(file), kDayColumns + std::string("\n1,01-01-2026,5,\n"));
+  AddToFile(file, {}, NewStatementCheck());
+  EXPECT_EQ(RowsOf(Content(file)).back().at("account"), "2");
 }
 
 TEST(AddToFile, RefusesAnAccountThatIsNotCompleteAndAFolder) {

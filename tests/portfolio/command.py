@@ -10,6 +10,7 @@ import signal
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 from pathlib import Path
 
@@ -101,16 +102,21 @@ class Command(unittest.TestCase):
 
     def test_ctrl_c_keeps_the_accounts_that_are_complete(self):
         out = self.file("out.csv")
-        with subprocess.Popen([PROGRAM, "-", "-o", out], text=True, stdin=subprocess.PIPE,
+        with subprocess.Popen([PROGRAM, "-", "-o", out, "--progress"], text=True, stdin=subprocess.PIPE,
                               stderr=subprocess.PIPE) as run:
             # More than the program and the pipe hold, so that it has to be in the middle of them.
             run.stdin.write(HEADER + STEPPED.replace("D", "E") + MANY * 20)
+            run.stdin.flush()
+            time.sleep(0.3)  # longer than the progress waits between two lines
+            run.stdin.write(MANY)
             run.stdin.write(STEPPED.splitlines()[0])
             run.stdin.flush()
             self.assertFalse(os.path.exists(out))
             run.send_signal(signal.SIGINT)
             self.assertEqual(run.wait(timeout=30), 130)
-            self.assertIn("Interrupted: ", run.stderr.read())
+            # Read as text, the returns that begin the line anew are line ends.
+            self.assertRegex(run.stderr.read(),
+                             r"[1-9][\d,]* rows, [\d,]+ a second\x1b\[K\n\x1b\[KInterrupted: ")
         lines = Path(out).read_text().split("\n")
         self.assertEqual(lines.pop(), "")
         self.assertGreater(len(lines), 1000)

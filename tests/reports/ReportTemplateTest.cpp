@@ -25,7 +25,7 @@ const struct {
   Lines input, expected, unknown;
 } kCases[] = {
     {"text without tags is copied", {"one", "", " two "}, {"one", "", " two "}, {}},
-    {"tags fill from left to right", {"a^name^b^blank^c^name^"}, {"aBankbcBank"}, {}},
+    {"tags fill from left to right", {"a^name^b^blank^^name^"}, {"aBankbBank"}, {}},
     {"an unknown tag, once per occurrence",
      {"^Name^ ^name^ ^x^", "^Name^"},
      {"? Bank ?", "?"},

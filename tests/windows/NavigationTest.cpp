@@ -116,6 +116,8 @@ TEST_F(Navigation, EscapeOnTheMainMenuEndsTheProcessAtOnceUnlessItLeavesTheMenuB
   EXPECT_EQ(QApplication::activePopupWidget(), Get<QMenu>("mnuFile"));
   Key(Qt::Key_Escape);
   Key(Qt::Key_Escape);
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, {}, {}, true);
+  QCoreApplication::sendEvent(QApplication::focusWidget(), &held);
   EXPECT_FALSE(windows.HasEnded());
   Key(Qt::Key_Escape);
   EXPECT_TRUE(windows.HasEnded());

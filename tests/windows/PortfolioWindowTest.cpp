@@ -121,14 +121,18 @@ TEST_F(PortfolioWindowTest, FilesThatAreDroppedAreToldApart) {
                              "S,statement,3.00,3,2024-01-01,2024-01-03,adb,0,0\n";
   std::ofstream(days) << "account,date,balance\nS,2024-01-01,1000\nS,2024-01-02,1000\n";
   windows.Show<MainMenu>();
-  Expect({.text = "The file has statements without an average balance.\nDo you want to choose the "
-                  "file of their daily balances?",
-          .title = "Check a File",
-          .icon = MessageIcon::None,
-          .answer = QMessageBox::No});
-  Drop(InFront<MainMenu>(), {accounts});
+  InFront<MainMenu>();
+  for (const char* read : {"a file", "another"}) {
+    Expect({.text = "The file has statements without an average balance.\nDo you want to choose "
+                    "the file of their daily balances?",
+            .title = "Check a File",
+            .icon = MessageIcon::None,
+            .answer = QMessageBox::No});
+    Drop(*Front(), {accounts});
+    const auto& table = InFront<PortfolioWindow>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !table.IsReading() && boxes.empty(); })) << read;
+  }
   auto& window = InFront<PortfolioWindow>();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !window.IsReading() && boxes.empty(); }));
   EXPECT_EQ(Caption("lblCounts"), "1 accounts: 0 OK, 0 violations, 1 refused.");
   Drop(window, {days});
   EXPECT_TRUE(QTest::qWaitFor([&] { return Caption("lblFile").ends_with("days.csv"); }));

@@ -48,6 +48,33 @@ bool IsReadable(const QAccessibleInterface* part, const QString& text) {
   return false;
 }
 
+TEST_F(ReportWindows, APageReachesNothingBeyondItself) {
+  const QTemporaryDir folder;
+  const auto path = [&folder](const char* name) { return folder.filePath(name).toStdString(); };
+  WriteWholeFile(path("other.css"), "#style{display:none}");
+  WriteWholeFile(path("other.html"), "other page");
+  WriteWholeFile(
+      path("report.html"),
+      "<a href=other.html style='display:block;height:99vh'>link</a><p id=script>no script</p>"
+      "<p id=style>no style</p><link rel=stylesheet href=other.css>"
+      "<script>document.getElementById('script').textContent='script ran'</script>");
+  Compute();
+  auto* view = Get<WebView>("WebView");
+  QSignalSpy shown(view, &WebView::Shown);
+  ASSERT_TRUE(shown.wait(20000));
+  view->ShowFile(folder.filePath("report.html"));
+  ASSERT_TRUE(shown.wait(20000));
+  QAccessible::setActive(true);
+  auto* const page = QAccessible::queryAccessibleInterface(view);
+  for (const char* text : {"link", "no style", "no script"}) {
+    EXPECT_TRUE(QTest::qWaitFor([page, text] { return IsReadable(page, text); }, 5000)) << text;
+  }
+  QAccessible::setActive(false);
+  view->setFocus();
+  QTest::mouseClick(QApplication::focusWidget(), Qt::LeftButton);
+  EXPECT_FALSE(shown.wait(1000)) << "the link was followed, or its refusal taken for a failure";
+}
+
 TEST_F(ReportWindows, AReportThatAnotherProgramReplacedIsBuiltAgain) {
   Compute();
   QSignalSpy shown(Get<WebView>("WebView"), &WebView::Shown);

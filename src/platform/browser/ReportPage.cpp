@@ -47,13 +47,20 @@ class ReportPage : public QWebEnginePage {
     load(url);
   }
 
+  /// Whether what has finished is no load: the engine tells of a link that was refused as of a page
+  /// that failed.
+  bool WasRefused() { return std::exchange(isRefused_, false); }
+
  protected:
-  bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool) override {
-    return type != NavigationTypeLinkClicked && guard_->Allows(url);
+  bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override {
+    const bool accepts = type != NavigationTypeLinkClicked && guard_->Allows(url);
+    isRefused_ = isMainFrame && !accepts;
+    return accepts;
   }
 
  private:
   OnlyThisFile* guard_;
+  bool isRefused_ = false;
 };
 
 /// Shows that a page prints. It takes the input of all windows and stays until the print ends.
@@ -81,8 +88,9 @@ class EngineReportPane : public WarmReportPane {
   EngineReportPane() {
     profile_.setUrlRequestInterceptor(&guard_);
     SwitchOff(*page_.settings());
-    QObject::connect(&page_, &QWebEnginePage::loadFinished,
-                     [this](bool success) { Loaded(success); });
+    QObject::connect(&page_, &QWebEnginePage::loadFinished, [this](bool success) {
+      if (!page_.WasRefused()) Loaded(success);
+    });
     QObject::connect(&page_, &QWebEnginePage::renderProcessTerminated, [this] { Loaded(false); });
   }
 
