@@ -59,14 +59,6 @@ void Replace(std::string& text, std::string_view name, int number) {
   }
 }
 
-std::string FigureText(const NoteFigure& figure) {
-  std::string text = figure.place.empty() ? " " : " " + figure.place + ": ";
-  text += FormatFixed2(figure.other) + "% beside " + FormatFixed2(figure.computed) + "%.";
-  if (figure.turnsTo == Verdict::Ok) text += " This would be OK.";
-  if (figure.turnsTo == Verdict::Violation) text += " This would be an APY VIOLATION.";
-  return text;
-}
-
 }  // namespace
 
 std::optional<NoteFigure> FigureApart(double computed, double other, double disclosed,
@@ -79,11 +71,24 @@ std::optional<NoteFigure> FigureApart(double computed, double other, double disc
   return figure;
 }
 
-std::string NoteText(const Note& note) {
+std::string NoteLead(const Note& note) {
   std::string text(TextOf(note.kind));
   Replace(text, "{count}", note.count);
   Replace(text, "{all}", note.all);
-  for (const NoteFigure& figure : note.figures) text += FigureText(figure);
+  return text;
+}
+
+std::string FigureText(const NoteFigure& figure) {
+  std::string text = figure.place.empty() ? "" : figure.place + ": ";
+  text += FormatFixed2(figure.other) + "% beside " + FormatFixed2(figure.computed) + "%.";
+  if (figure.turnsTo == Verdict::Ok) text += " This would be OK.";
+  if (figure.turnsTo == Verdict::Violation) text += " This would be an APY VIOLATION.";
+  return text;
+}
+
+std::string NoteText(const Note& note) {
+  std::string text = NoteLead(note);
+  for (const NoteFigure& figure : note.figures) text += " " + FigureText(figure);
   return text;
 }
 

@@ -47,6 +47,12 @@ using Notes = std::vector<Note>;
 std::optional<NoteFigure> FigureApart(double computed, double other, double disclosed,
                                       double least);
 
+/// What a note says before its figures.
+std::string NoteLead(const Note& note);
+
+/// "Tier 1: 5.06% beside 5.13%. This would be OK."
+std::string FigureText(const NoteFigure& figure);
+
 /// The note as plain sentences: "... when it compounds every 182 days: 5.06% beside 5.13%. This
 /// would be OK."
 std::string NoteText(const Note& note);

@@ -19,6 +19,12 @@ struct PrintedLabels {
 
 enum class PrintOutcome { Printed, Cancelled, Failed };
 
+/// What came of a print, and of one that failed, why.
+struct PrintResult {
+  PrintOutcome outcome;
+  QString reason = {};
+};
+
 /// Shows one local report file and nothing else.
 class ReportPane {
  public:
@@ -31,7 +37,7 @@ class ReportPane {
   /// In percent of the size that the page gives itself.
   virtual void SetZoom(int percent) = 0;
   /// Prints the page after the system's print dialog, and keeps all input away until it is printed.
-  virtual PrintOutcome Print(const PrintedLabels& labels, QWidget* parent) = 0;
+  virtual PrintResult Print(const PrintedLabels& labels, QWidget* parent) = 0;
 };
 
 /// Shows the topics of a help book and nothing else.

@@ -76,9 +76,10 @@ void WebView::GiveUp(const QString& reason) {
   emit Shown(false);
 }
 
-PrintOutcome WebView::Print(const PrintedLabels& labels) {
+PrintResult WebView::Print(const PrintedLabels& labels) {
   const auto printing = pane_;
-  return printing ? printing->Print(labels, window()) : PrintOutcome::Failed;
+  if (!printing) return {PrintOutcome::Failed, "No report is shown"};
+  return printing->Print(labels, window());
 }
 
 }  // namespace corvane

@@ -33,7 +33,7 @@ class WebView : public QWidget {
 
   /// Prints the page after the system's print dialog, and keeps all input away until it is printed.
   /// It fails also when no page is shown.
-  PrintOutcome Print(const PrintedLabels& labels);
+  PrintResult Print(const PrintedLabels& labels);
 
  signals:
   /// The page stands on the screen, or could not be loaded.

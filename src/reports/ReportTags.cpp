@@ -11,6 +11,16 @@ namespace corvane {
 
 namespace {
 
+/// The figure of a tier stays together, so that those of many tiers can be read as a list.
+std::string NoteHtml(const Note& note) {
+  std::string html = EscapeHtml(NoteLead(note));
+  for (const NoteFigure& figure : note.figures) {
+    const std::string text = EscapeHtml(FigureText(figure));
+    html += figure.place.empty() ? " " + text : " <span>" + text + "</span>";
+  }
+  return html;
+}
+
 std::string CompoundingTerm(const StatementSetup& setup) {
   return setup.compounding == Unit::None ? "" : std::to_string(CompoundingDays(setup));
 }
@@ -30,7 +40,7 @@ Tags CommonTags(const AccountHeader& header, double factorDays, const Date& toda
 std::string NotesHtml(const Notes& notes) {
   if (notes.empty()) return "";
   std::string html = "<section class=\"notes\"><h2>Notes</h2><ul>";
-  for (const Note& note : notes) html += "<li>" + EscapeHtml(NoteText(note)) + "</li>";
+  for (const Note& note : notes) html += "<li>" + NoteHtml(note) + "</li>";
   return html + "</ul></section>";
 }
 

@@ -102,6 +102,9 @@ std::string_view EarningBalance(const StatementAccount& account) {
 
 std::string CompoundingRule(const StatementAccount& account) {
   if (account.compoundingDays == 0) return " Interest does not compound.";
+  if (account.compoundingDays == 1) {
+    return " On every earning day but the first the interest so far counts as balance.";
+  }
   return " On the first earning day after each " + std::to_string(account.compoundingDays) +
          " of them the interest so far counts as balance.";
 }
@@ -148,7 +151,8 @@ std::string VerdictSentence(double disclosedApy, double computedApy) {
   const double apart = std::fabs(disclosedApy - computedApy);
   const std::string distance = verdict == Verdict::Ok
                                    ? "within 0.05 percentage point of"
-                                   : FormatRate(apart) + " percentage point" +
+                                   : FormatRate(apart) +
+                                         (apart > 1 ? " percentage points" : " percentage point") +
                                          (disclosedApy > computedApy ? " above" : " below");
   return std::string(VerdictText(verdict)) + ": the disclosed APY of " + FormatRate(disclosedApy) +
          "% is " + distance + " the computed APY of " + FormatFixed2(computedApy) + "%.";

@@ -41,7 +41,7 @@ TEST(PrintedPages, CarryTitleAndFootAsTextAndKeepTheirOwn) {
     printer.setOutputFileName(folder.filePath("report.pdf"));
     const QByteArray pages = WithLabels(TwoPages(printer.pageLayout()), printer.pageLayout(),
                                         {"Summary", "First National Bank", "03-07-2024"});
-    ASSERT_TRUE(PrintPages(pages, printer));
+    ASSERT_EQ(PrintPages(pages, printer), "");
     QPdfDocument document;
     document.load(folder.filePath("report.pdf"));
     ASSERT_EQ(document.pageCount(), 2);
@@ -50,6 +50,9 @@ TEST(PrintedPages, CarryTitleAndFootAsTextAndKeepTheirOwn) {
     EXPECT_EQ(TextOf(document, 1), "second First National Bank 03-07-2024 Page 2 of 2");
   }
   EXPECT_TRUE(WithLabels("no document", {}, {}).isEmpty());
+  QPrinter printer;
+  printer.setOutputFileName("/no folder/report.pdf");
+  EXPECT_EQ(PrintPages("", printer), "/no folder/report.pdf\nNo such file or directory");
 }
 
 }  // namespace

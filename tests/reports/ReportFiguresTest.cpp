@@ -98,14 +98,19 @@ TEST_F(ReportFigures, OfStatementsAndTheirDays) {
   }
 }
 
-TEST_F(ReportFigures, OfTheAdditionalFormula) {
-  StatementCheck check = StatementOf(AccountKind::Regular, BalanceMethod::DailyBalance, "0");
-  ChooseAdditionalFormula(check.setup, true);
-  check.setup.txtDCPeriod.text = "91";
-  check.entry.txtADBLedgerBalance.text = "10000";
-  check.entry.txtIntAmt.text = "12.50";
-  ASSERT_EQ(Said(CalculateStatement(check)), "ok");
-  Write(kStatementReport, StatementReport(kHeader, check, kToday));
+TEST_F(ReportFigures, OfTypedAveragesAndInterest) {
+  for (const char* minimum : {"0", "5"}) {
+    StatementCheck check = StatementOf(AccountKind::Regular, BalanceMethod::DailyBalance, "0");
+    ChooseAdditionalFormula(check.setup, minimum[0] == '0');
+    check.setup.txtDCPeriod.text = check.setup.additionalFormula ? "91" : "";
+    check.entry.txtMinADB.text = check.entry.txtMinDBal.text = minimum;
+    check.entry.txtADBLedgerBalance.text = "10000";
+    check.entry.txtIntAmt.text = "12.50";
+    // Both minimums are told, and computed all the same.
+    EXPECT_TRUE(Said(CalculateStatement(check)).ends_with("ok"));
+    ASSERT_TRUE(check.result);
+    Write(kStatementReport, StatementReport(kHeader, check, kToday));
+  }
 }
 
 }  // namespace

@@ -99,6 +99,7 @@ QImage PictureOf(QPdfDocument& document, int page) {
   return picture;
 }
 
+/// False when the printer refuses.
 bool PaintPages(QPdfDocument& document, QPrinter& printer) {
   printer.setFullPage(true);
   QPainter painter(&printer);
@@ -138,16 +139,19 @@ QByteArray WithLabels(const QByteArray& pdf, const QPageLayout& layout,
   return {};
 }
 
-bool PrintPages(const QByteArray& pdf, QPrinter& printer) {
+QString PrintPages(const QByteArray& pdf, QPrinter& printer) {
   if (printer.outputFormat() == QPrinter::PdfFormat) {
-    return !WriteWholeFile(PathOf(printer.outputFileName().toStdString()), pdf.toStdString());
+    const auto file = PathOf(printer.outputFileName().toStdString());
+    const auto error = WriteWholeFile(file, pdf.toStdString());
+    return error ? QString::fromStdString(PathText(error->path) + "\n" + error->reason) : QString();
   }
   QByteArray data = pdf;
   QBuffer buffer(&data);
   QPdfDocument document;
   buffer.open(QIODevice::ReadOnly);
   document.load(&buffer);
-  return document.status() == QPdfDocument::Status::Ready && PaintPages(document, printer);
+  if (document.status() != QPdfDocument::Status::Ready) return "Its pages could not be drawn";
+  return PaintPages(document, printer) ? QString() : "The printer takes no pages";
 }
 
 }  // namespace corvane

@@ -16,7 +16,7 @@ QByteArray WithLabels(const QByteArray& pdf, const QPageLayout& layout,
                       const PrintedLabels& labels);
 
 /// Prints a PDF document: into the file where the printer prints to a PDF file, so that its text
-/// stays text, else as pictures of the pages in its range. False when it fails.
-bool PrintPages(const QByteArray& pdf, QPrinter& printer);
+/// stays text, else as pictures of the pages in its range. Tells why it failed, or nothing.
+QString PrintPages(const QByteArray& pdf, QPrinter& printer);
 
 }  // namespace corvane

@@ -74,6 +74,18 @@ class PrintingBox : public QDialog {
   }
 
   void reject() override {}
+
+  /// Ends the wait; without a reason the page is printed.
+  void Finish(const QString& reason) {
+    reason_ = reason;
+    done(reason.isEmpty() ? Accepted : Rejected);
+  }
+  PrintResult Result() const {
+    return {result() == Accepted ? PrintOutcome::Printed : PrintOutcome::Failed, reason_};
+  }
+
+ private:
+  QString reason_ = "The program ends";
 };
 
 /// Asks where and how to print.
@@ -99,7 +111,7 @@ class EngineReportPane : public WarmReportPane {
 
   QWidget& View() override;
   void SetZoom(int percent) override { page_.setZoomFactor(percent / 100.0); }
-  PrintOutcome Print(const PrintedLabels& labels, QWidget* parent) override;
+  PrintResult Print(const PrintedLabels& labels, QWidget* parent) override;
 
   void Open(const QString& path, std::function<void(bool)> loaded) override {
     loaded_ = std::move(loaded);
@@ -108,7 +120,7 @@ class EngineReportPane : public WarmReportPane {
 
  private:
   void Loaded(bool success);
-  void StartToPrint(QPrinter& printer, const PrintedLabels& labels, QDialog& box);
+  void StartToPrint(QPrinter& printer, const PrintedLabels& labels, PrintingBox& box);
 
   bool isWarm_ = false;
   std::function<void(bool)> loaded_;
@@ -137,29 +149,32 @@ void EngineReportPane::Loaded(bool success) {
 }
 
 /// Starts to print, which ends the wait in the box. An engine whose helper is gone ends it too.
-void EngineReportPane::StartToPrint(QPrinter& printer, const PrintedLabels& labels, QDialog& box) {
-  if (page_.renderProcessPid() == 0) return box.done(QDialog::Rejected);
+void EngineReportPane::StartToPrint(QPrinter& printer, const PrintedLabels& labels,
+                                    PrintingBox& box) {
+  constexpr const char* kLost = "The browser has lost its helper process";
+  if (page_.renderProcessPid() == 0) return box.Finish(kLost);
   QObject::connect(&page_, &QWebEnginePage::renderProcessTerminated, &box,
-                   [&box] { box.done(QDialog::Rejected); });
+                   [&box] { box.Finish(kLost); });
   // Without the box the printer is gone too.
   const auto deliver = [&printer, labels,
-                        waiting = QPointer<QDialog>(&box)](const QByteArray& pdf) {
+                        waiting = QPointer<PrintingBox>(&box)](const QByteArray& pdf) {
     if (!waiting) return;
     const QByteArray pages = WithLabels(pdf, printer.pageLayout(), labels);
-    const bool success = !pages.isEmpty() && PrintPages(pages, printer);
-    waiting->done(success ? QDialog::Accepted : QDialog::Rejected);
+    waiting->Finish(pages.isEmpty() ? "The browser made no pages of it"
+                                    : PrintPages(pages, printer));
   };
   page_.printToPdf(deliver, printer.pageLayout());
 }
 
-PrintOutcome EngineReportPane::Print(const PrintedLabels& labels, QWidget* parent) {
+PrintResult EngineReportPane::Print(const PrintedLabels& labels, QWidget* parent) {
   QPrinter printer(QPrinter::HighResolution);
   PreparePages(printer);
   printer.setDocName(labels.title);
-  if (!Accepts(printer, parent)) return PrintOutcome::Cancelled;
+  if (!Accepts(printer, parent)) return {PrintOutcome::Cancelled};
   PrintingBox box(parent);
   QTimer::singleShot(0, &box, [&] { StartToPrint(printer, labels, box); });
-  return box.exec() == QDialog::Accepted ? PrintOutcome::Printed : PrintOutcome::Failed;
+  box.exec();
+  return box.Result();
 }
 
 }  // namespace

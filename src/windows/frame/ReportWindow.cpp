@@ -128,10 +128,11 @@ void ReportWindow::CheckShown(bool success) {
 
 void ReportWindow::Print() {
   if (!text_) return;
-  const PrintOutcome outcome = view_->Print(labels_);
-  if (outcome == PrintOutcome::Printed) ShowHint("Printed");
-  if (outcome == PrintOutcome::Failed) {
-    Tell({"The report could not be printed.", "", "Error!", MessageIcon::None});
+  const PrintResult result = view_->Print(labels_);
+  if (result.outcome == PrintOutcome::Printed) ShowHint("Printed");
+  if (result.outcome == PrintOutcome::Failed) {
+    Tell({"The report could not be printed.\n" + result.reason.toStdString(), "", "Error!",
+          MessageIcon::None});
   }
 }
 
