@@ -94,7 +94,7 @@ DaysSummary Summarize(const DailyBalances& daily) {
     if (HasBalance(day)) balances.push_back(CountedBalance(NumericValue(day.balance)));
   }
   return {.entered = balances.size(),
-          .sum = std::accumulate(balances.begin(), balances.end(), 0.0),
+          .sum = static_cast<double>(std::accumulate(balances.begin(), balances.end(), 0.0L)),
           .average = AverageDailyBalance(balances)};
 }
 
@@ -104,7 +104,7 @@ std::string SummaryText(const DailyBalances& daily) {
   std::string text = std::to_string(entered) + " of " + std::to_string(days) + " days entered, " +
                      std::to_string(days - entered) + " empty";
   if (entered == 0) return text;
-  return text + "  \u00b7  Sum " + FormatGrouped2(sum) + "  \u00b7  Average so far " +
+  return text + " \u00b7 Sum " + FormatGrouped2(sum) + " \u00b7 Average so far " +
          FormatGrouped2(average);
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/MessageBox.h"
 #include "platform/OpenDialog.h"
+#include "platform/WorkArea.h"
 #include "statement/DayFilling.h"
 #include "statement/DayNotice.h"
 #include "statement/DayTable.h"
@@ -38,13 +39,18 @@ DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& registry)
 DailyBalancesWindow::~DailyBalancesWindow() = default;
 
 void DailyBalancesWindow::BindFields() {
+  // Three columns stand beside each other: where a page does not fit in its full width, large
+  // letters take what the longest balances would.
+  const bool hasRoom = PageSize(*this).width() <= WorkArea(*this).width();
+  const int balanceDigits = hasRoom ? FieldLength::kMoney : DayGrid::kBalanceDigits;
+  const int rateDigits = hasRoom ? FieldLength::kRate : DayGrid::kRateDigits;
   for (const auto& [label, balance, rate] : grid_->Rows()) {
     for (const auto& [field, limit] :
          {std::pair(balance, kDayBalanceDecimals), std::pair(rate, kDayRateDecimals)}) {
       BindNumeric(field, {.repairMinus = true, .decimals = limit.decimals, .kind = limit.kind});
     }
-    FitToDigits(*balance, DayGrid::kBalanceDigits);
-    FitToDigits(*rate, DayGrid::kRateDigits);
+    FitToDigits(*balance, balanceDigits);
+    FitToDigits(*rate, rateDigits);
     for (QLineEdit* field : {balance, rate}) {
       SelectTextOnFocus(field);
       OnLostFocus(field,
@@ -153,7 +159,7 @@ void DailyBalancesWindow::ShowPage(int page) {
 }
 
 void DailyBalancesWindow::ShowSummary() {
-  ui_->lblSummary->setText(QString::fromStdString(SummaryText(grid_->Days())));
+  ui_->lblSummary->SetLine(QString::fromStdString(SummaryText(grid_->Days())));
 }
 
 bool DailyBalancesWindow::TakePage() {

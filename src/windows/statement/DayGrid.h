@@ -28,7 +28,7 @@ class DayGrid : public QObject {
   };
 
   // Three columns have to fit beside each other on a small screen, in a font of 14 points.
-  static constexpr int kBalanceDigits = 11;  ///< "99999999.99"
+  static constexpr int kBalanceDigits = 11;  ///< "99999999.99", of every balance with less room
   static constexpr int kRateDigits = 6;      ///< "10.1234", whose point is narrow
 
   /// Makes the fields; the frame owns them. Tab reaches them, day by day, behind the control.
