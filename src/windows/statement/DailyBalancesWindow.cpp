@@ -42,15 +42,14 @@ void DailyBalancesWindow::BindFields() {
   // Three columns stand beside each other: where a page does not fit in its full width, large
   // letters take what the longest balances would.
   const bool hasRoom = PageSize(*this).width() <= WorkArea(*this).width();
-  const int balanceDigits = hasRoom ? FieldLength::kMoney : DayGrid::kBalanceDigits;
-  const int rateDigits = hasRoom ? FieldLength::kRate : DayGrid::kRateDigits;
+  const int digits = hasRoom ? FieldLength::kMoney : DayGrid::kBalanceDigits;
   for (const auto& [label, balance, rate] : grid_->Rows()) {
     for (const auto& [field, limit] :
          {std::pair(balance, kDayBalanceDecimals), std::pair(rate, kDayRateDecimals)}) {
       BindNumeric(field, {.repairMinus = true, .decimals = limit.decimals, .kind = limit.kind});
     }
-    FitToDigits(*balance, balanceDigits);
-    FitToDigits(*rate, rateDigits);
+    FitToDigits(*balance, digits);
+    FitToDigits(*rate, DayGrid::kRateDigits);
     for (QLineEdit* field : {balance, rate}) {
       SelectTextOnFocus(field);
       OnLostFocus(field,
