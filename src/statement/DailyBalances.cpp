@@ -46,7 +46,7 @@ double InterestHandedBack(const StatementAccount& account, const StatementIntere
   return withheld || computed.averageBalance == 0 ? 0 : computed.interest.total;
 }
 
-/// The sum of amounts in cents, which no number of days makes wrong by a cent.
+/// The sum of amounts in whole cents, so that the errors of many do not add up.
 double SumOfCents(const std::vector<double>& amounts) {
   constexpr long double kCents = 100;
   long double sum = 0;
