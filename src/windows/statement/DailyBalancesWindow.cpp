@@ -39,23 +39,20 @@ DailyBalancesWindow::DailyBalancesWindow(WindowRegistry& registry)
 DailyBalancesWindow::~DailyBalancesWindow() = default;
 
 void DailyBalancesWindow::BindFields() {
-  // Three columns stand beside each other: where a page does not fit in its full width, large
-  // letters take what the longest balances would.
-  const bool hasRoom = PageSize(*this).width() <= WorkArea(*this).width();
-  const int digits = hasRoom ? FieldLength::kMoney : DayGrid::kBalanceDigits;
   for (const auto& [label, balance, rate] : grid_->Rows()) {
     for (const auto& [field, limit] :
          {std::pair(balance, kDayBalanceDecimals), std::pair(rate, kDayRateDecimals)}) {
       BindNumeric(field, {.repairMinus = true, .decimals = limit.decimals, .kind = limit.kind});
     }
-    FitToDigits(*balance, digits);
-    FitToDigits(*rate, DayGrid::kRateDigits);
     for (QLineEdit* field : {balance, rate}) {
       SelectTextOnFocus(field);
       OnLostFocus(field,
                   [this, field](const QString&) { Field_LostFocus(*grid_->PlaceOf(field)); });
     }
   }
+  // Where a page does not fit in its full width, large letters take what long balances would. It
+  // comes last: a rule of a field asks for a width too.
+  grid_->FitFields(PageSize(*this).width() <= WorkArea(*this).width());
 }
 
 void DailyBalancesWindow::BindCommands() {
