@@ -4,6 +4,8 @@
 #include <QtWidgets>
 
 #include "platform/BrowserLoader.h"
+#include "platform/HelpView.h"
+#include "platform/OpenDialog.h"
 #include "platform/Pictures.h"
 #include "platform/WebView.h"
 #include "support/Clock.h"
@@ -13,9 +15,9 @@ namespace corvane {
 
 namespace {
 
-/// Until a window that was just shown, or its report, has come to rest.
+/// Until a window that was just shown, or its page, has come to rest.
 constexpr int kRestMilliseconds = 250;
-constexpr int kReportMilliseconds = 2500;
+constexpr int kPageMilliseconds = 2500;
 
 /// What is typed, "&c" for Alt+C, and the picture that is taken of the window in front then.
 struct Step {
@@ -55,6 +57,9 @@ const Steps kHelpTopics = {
     {"&c"},
     {"&c"},
     {"&s", "interest-report"},
+    {"&b"},
+    {"[cmdExit] "},
+    {"[mnuCheckFile]", "check-file"},
 };
 
 /// The one picture of a message: any other has come unasked.
@@ -102,7 +107,8 @@ Steps Tiers(const QString& option, const QStringList& balances, const char* tabl
 
 /// The days of a statement's period; the results where they are asked for.
 Steps Days(int count, const char* days, const char* last) {
-  return {{"[cmdStatement] [txtName]First Example Bank[optStepRate] [cmdNext] "},
+  return {{"[cmdStatement] [txtName]First Example Bank\tInterest checking with tiers[optStepRate] "
+           "[cmdNext] "},
           {"[txtDateStart]04012025[txtMinADB]0[txtMinDBal]0[txtDClApy]6.58[txtLedgerdays]" +
            QString::number(count) + "\t[cmdComputeLADB] "},
           {"999999999999.99\t10.1234[mnuCopyToEnd]", days},
@@ -121,6 +127,10 @@ Steps EveryWindow() {
       {"&a", "about"},
       {"\r"},
       {"&c", "main-menu"},
+      {"[mnuCheckFile]", "file"},
+      {"&r", "file-report"},
+      {"&b"},
+      {"&m"},
       {"&e", "help"},
       {"[]"},
       {Setup("[optICNone] "), "setup-no-compounding"},
@@ -262,7 +272,8 @@ bool TakeWindow(QWidget* window, const QString& path) {
 
 /// Draws a window with its title bar, as a desktop does.
 void DrawFramed(QPainter& painter, QWidget& window) {
-  const int bar = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  const int bar =
+      qMin(window.style()->pixelMetric(QStyle::PM_TitleBarHeight), window.geometry().top());
   const QRect frame = window.geometry().adjusted(-2, -bar, 2, 2);
   painter.fillRect(frame, QColor(0x40, 0x50, 0x60));
   painter.setPen(Qt::white);
@@ -297,8 +308,9 @@ class Walk : public QObject {
  private:
   void Rest() {
     const QWidget* window = Front();
-    const bool isReport = window && step_->picture && window->findChild<WebView*>();
-    QTimer::singleShot(isReport ? kReportMilliseconds : kRestMilliseconds, this,
+    const bool isPage = window && step_->picture &&
+                        (window->findChild<WebView*>() || window->findChild<HelpView*>());
+    QTimer::singleShot(isPage ? kPageMilliseconds : kRestMilliseconds, this,
                        [this] { Continue(); });
   }
 
@@ -374,6 +386,7 @@ int main(int argc, char** argv) {
     QApplication::setFont(font);
     if (QByteArrayView(argv[4]) == "dark") QApplication::setPalette(corvane::DarkPalette());
   }
+  corvane::SetOpenAnswer([] { return QString("examples/regular.csv"); });
   corvane::SetToday(year{2025} / May / 2);
   corvane::Session session;
   corvane::WindowRegistry windows(session);

@@ -39,7 +39,7 @@ std::string NextStepOfEntry(const DisclosureCheck& check) {
   if (check.setup.IsTiered()) return TierFigures(check) + TierButton(check);
   if (check.setup.kind == AccountKind::Stepped) {
     const char* button = IsLastEntry(check) ? " Calculate computes the account."
-                                            : " Next computes the account up to this period.";
+                                            : " Next computes up to this period.";
     return PeriodFigures(check) + button;
   }
   return "Type the figures of the disclosure. Calculate computes the APY and compares it.";

@@ -1,5 +1,7 @@
 #include "platform/Pictures.h"
 
+#include <QPainter>
+
 // Outside the namespace, as the macro declares a global function.
 static void LoadPictures() {
   Q_INIT_RESOURCE(icons);
@@ -30,7 +32,19 @@ QPixmap ProgramPicture() {
 }
 
 QIcon CalendarIcon() {
-  return Picture(":/icons/calendar.png");
+  constexpr const char* kFile = ":/icons/calendar.png";
+  constexpr qreal kFaint = 0.35;
+  QIcon icon = Picture(kFile);
+  // A style makes light greys of it, which shine in a dark window.
+  const QPixmap plain(kFile);
+  QPixmap faint(plain.size());
+  faint.fill(Qt::transparent);
+  QPainter painter(&faint);
+  painter.setOpacity(kFaint);
+  painter.drawPixmap(0, 0, plain);
+  painter.end();
+  icon.addPixmap(faint, QIcon::Disabled);
+  return icon;
 }
 
 }  // namespace corvane

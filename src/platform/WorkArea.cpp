@@ -55,12 +55,11 @@ void PlaceOver(QWidget& window, const QWidget& other) {
   window.move(PlaceInside(area, place));
 }
 
-void PlaceBeside(QWidget& window, const QPoint& point) {
+void PlaceBeside(QWidget& window, const QRect& spot) {
+  constexpr int kGap = 2;
   const QRect area = WorkArea(window);
-  const QSize framed = Fit(window, area.size(), FrameAround(window));
-  QRect place(point + QPoint(2, 20), framed);
-  if (place.right() > area.right()) place.moveRight(point.x() - 2);
-  if (place.bottom() > area.bottom()) place.moveBottom(point.y() - 2);
+  QRect place(spot.bottomLeft() + QPoint(0, kGap), Fit(window, area.size(), FrameAround(window)));
+  if (place.bottom() > area.bottom()) place.moveBottom(spot.top() - kGap);
   window.move(PlaceInside(area, place));
 }
 

@@ -22,7 +22,7 @@ QPoint CenteredPlace(const QRect& workArea, const QSize& window);
 void CenterInWorkArea(QWidget& window);
 /// Centre over centre of a window that is shown.
 void PlaceOver(QWidget& window, const QWidget& other);
-/// Below and to the right of a point of the screen, or on its other side where there is no room.
-void PlaceBeside(QWidget& window, const QPoint& point);
+/// Below a spot of the screen, from its left edge on, or above it where there is no room.
+void PlaceBeside(QWidget& window, const QRect& spot);
 
 }  // namespace corvane

@@ -1,7 +1,7 @@
 #include "statement/DailyBalances.h"
 
 #include <algorithm>
-#include <numeric>
+#include <cmath>
 
 #include "account/TierTable.h"
 #include "formulas/AnnualYield.h"
@@ -44,6 +44,14 @@ double InterestHandedBack(const StatementAccount& account, const StatementIntere
   const bool bothMinimums = account.minimumAdb > 0 && account.minimumDailyBalance > 0;
   const bool withheld = bothMinimums && account.method == BalanceMethod::DailyBalance;
   return withheld || computed.averageBalance == 0 ? 0 : computed.interest.total;
+}
+
+/// The sum of amounts in whole cents, so that the errors of many do not add up.
+double SumOfCents(const std::vector<double>& amounts) {
+  constexpr long double kCents = 100;
+  long double sum = 0;
+  for (const double amount : amounts) sum += std::round(amount * kCents);
+  return static_cast<double>(sum / kCents);
 }
 
 }  // namespace
@@ -94,7 +102,7 @@ DaysSummary Summarize(const DailyBalances& daily) {
     if (HasBalance(day)) balances.push_back(CountedBalance(NumericValue(day.balance)));
   }
   return {.entered = balances.size(),
-          .sum = std::accumulate(balances.begin(), balances.end(), 0.0),
+          .sum = SumOfCents(balances),
           .average = AverageDailyBalance(balances)};
 }
 
@@ -104,7 +112,7 @@ std::string SummaryText(const DailyBalances& daily) {
   std::string text = std::to_string(entered) + " of " + std::to_string(days) + " days entered, " +
                      std::to_string(days - entered) + " empty";
   if (entered == 0) return text;
-  return text + "  \u00b7  Sum " + FormatGrouped2(sum) + "  \u00b7  Average so far " +
+  return text + " \u00b7 Sum " + FormatGrouped2(sum) + " \u00b7 Average so far " +
          FormatGrouped2(average);
 }
 

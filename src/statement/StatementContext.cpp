@@ -52,14 +52,17 @@ constexpr Question kQuestions[] = {
 
 }  // namespace
 
-std::string ContextOf(const AccountHeader& header, const StatementCheck& check) {
-  const StatementSetup& setup = check.setup;
+std::string ContextOf(const AccountHeader& header, const StatementSetup& setup) {
   std::vector<std::string> parts = HeaderParts(header);
   parts.push_back(CompoundingText({setup.compounding, CompoundingDays(setup)}));
   for (std::string& part : YearParts(setup.year)) parts.push_back(std::move(part));
-  parts.push_back(DatesText(check.entry));
-  parts.push_back(DaysText(check.entry));
-  parts.push_back(MethodText(check.entry));
+  return JoinParts(parts);
+}
+
+std::string ContextOf(const AccountHeader& header, const StatementCheck& check) {
+  const StatementEntry& entry = check.entry;
+  const std::string parts[] = {ContextOf(header, check.setup), DatesText(entry), DaysText(entry),
+                               MethodText(entry)};
   return JoinParts(parts);
 }
 

@@ -8,9 +8,12 @@
 
 namespace corvane {
 
-/// What the period window and the daily window say of the statement: "First Bank · every 1 day ·
-/// 365 days · 29 Feb not counted · 10-01-2026 to 10-31-2026 · period of 30 days · average daily
-/// balance method". What is not known yet is left out.
+/// Whose account it is, which stays while its period is typed: "First Bank · every 1 day · 365 days
+/// · 29 Feb not counted".
+std::string ContextOf(const AccountHeader& header, const StatementSetup& setup);
+
+/// What the daily window says of the statement: all that, and " · 10-01-2026 to 10-31-2026 · period
+/// of 30 days · average daily balance method". What is not known is left out.
 std::string ContextOf(const AccountHeader& header, const StatementCheck& check);
 
 /// What the period window asks for first, of what is still missing.

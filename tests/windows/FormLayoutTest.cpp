@@ -114,6 +114,7 @@ void ExpectRoomForDigits(QWidget& form) {
        {"txtBal", "txt_bne(9)", "TxtAbove(10)", "txtMinADB", "txtMinDBal", "txtIntAmt",
         "txtADBLedgerBalance", "txtADBCollectedBalance"}},
       {"100.0000", {"txtIntRateA", "txtDiscAPY", "txtIntRate", "txtInt(10)"}},
+      {"99999999.99", {"txtDayBal(0)"}},
       {"12-28-2026", {"tStartDate", "tEndDate", "txtDateStart", "txtDateEnd"}},
       {"99999", {"txtTerm", "txtLedgerdays", "txtColDays", "txtBtwnReqIntWdrwl"}},
       {"1/365", {"txtDailyRateFactor", "txtDRFactor"}}};
@@ -143,7 +144,7 @@ class FormLayout : public WindowTest {
     session.disclosure.setup.withdrawal = Unit::Months;
     session.statement.setup.kind = AccountKind::Stepped;
     daily_.account.kind = AccountKind::Stepped;
-    daily_.days.resize(kDaysPerPage);
+    daily_.days.resize(kDaysPerPage, {"99999999.99", "10.1234"});
   }
   void TearDown() override {
     QApplication::setFont(font_);
@@ -203,6 +204,7 @@ TEST_F(FormLayout, EveryWindowCanBeReadAndUsedByKeyboardOnASmallScreen) {
 
 TEST_F(FormLayout, EveryWindowCutsNothingInLargeLetters) {
   ExamineEveryWindow(14);
+  ExamineDays();
 }
 
 TEST_F(FormLayout, MainWindowsStandWhereAPersonPutTheOneBeforeAndOthersAboveThem) {

@@ -38,6 +38,18 @@ class ReportWindows : public WindowTest {
   }
 };
 
+/// Answers the print dialog that opens next: as a file, whatever printers there are.
+void PrintTo(const QString& file) {
+  QTimer::singleShot(0, qApp, [file] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    auto* printers = dialog ? dialog->findChild<QComboBox*>("printers") : nullptr;
+    ASSERT_TRUE(printers);
+    printers->setCurrentIndex(printers->findText("Print to File", Qt::MatchStartsWith));
+    dialog->findChild<QLineEdit*>("filename")->setText(file);
+    dialog->accept();
+  });
+}
+
 /// Whether a screen reader finds the text below a part.
 bool IsReadable(const QAccessibleInterface* part, const QString& text) {
   if (!part || !part->isValid()) return false;
@@ -106,6 +118,12 @@ TEST_F(ReportWindows, TheBrowserShowsTheReportForEyesEarsAndKeys) {
     Key(key, Qt::ControlModifier);
     EXPECT_NEAR(browser->property("zoomFactor").toDouble(), zoom, 1e-6);
   }
+  const QTemporaryDir folder;
+  PrintTo(folder.filePath("printed.pdf"));
+  Click("cmdPrint");
+  EXPECT_EQ(Caption("lblHint"), "Printed");
+  EXPECT_GT(QFileInfo(folder.filePath("printed.pdf")).size(), 1000);
+  view->setFocus();
   Key(Qt::Key_Return);
   InFront<DisclosureEntryWindow>();
   Key(Qt::Key_Return);

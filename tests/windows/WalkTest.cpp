@@ -236,7 +236,7 @@ class Walk : public WindowTest {
     word->second(words.mid(1));
     EXPECT_TRUE(!acts || boxes.empty()) << "a box did not come";
     if (!acts) ++expected_;
-    usesMouse_ |= acts && !QStringList{"in", "key", "keys"}.contains(words.front());
+    usesMouse_ |= acts && !QStringList{"in", "key", "keys", "copy"}.contains(words.front());
   }
 
   /// An act that opens windows above: each part of the block that begins with "in" is done in one

@@ -28,8 +28,8 @@ void EntrySurroundings::ShowCheck() const {
   const DisclosureCheck& check = session_.disclosure;
   account_->ShowContext(ContextOf(session_.header, check.setup));
   tier_->setVisible(check.setup.IsTiered());
-  entries_->setVisible(HasOverview(check.setup));
-  entries_->ShowEntries(EntryHeading(check), EntriesSoFar(check), CurrentEntry(check));
+  const std::string heading = HasOverview(check.setup) ? EntryHeading(check) : "";
+  entries_->ShowEntries(heading, EntriesSoFar(check), CurrentEntry(check));
   window_.ShowNextStep(NextStepOfEntry(check));
 }
 

@@ -25,27 +25,18 @@ class CalendarPopup : public Form {
   /// key, and returns when the pop-up has closed: the day that was picked, or nothing.
   std::optional<Date> PickDate(const Date& from, const QString& caption = {});
 
-  /// The day that is marked, whose month is shown.
-  Date Current() const { return current_; }
-  /// Place of a day of that month in `picMonth`.
-  QRectF CellRect(const Date& date) const;
-
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void PaintMonth();
-  void PaintChosen(QPainter& painter) const;
-  void PaintHighlight(QPainter& painter) const;
   void MoveTo(const Date& date);
-  void PressDay(const QPointF& place);
+  void SetChosen(bool isChosen);
   bool picMonth_KeyDown(const QKeyEvent& press);
   bool LabelPressed(QObject* label);
   void Choose();
   void Close();
 
   std::unique_ptr<Ui::CalendarPopup> ui_;
-  Date current_;
   bool dateChosen_ = false;
 };
 

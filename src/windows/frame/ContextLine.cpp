@@ -11,9 +11,12 @@ QColor WarningColor(const QPalette& palette) {
   return isDark ? QColor(0xff, 0x9d, 0x8a) : QColor(0xa8, 0x10, 0x10);
 }
 
+/// Names that a person typed may be long, and letters large.
+constexpr int kMostLines = 2;
+
 }  // namespace
 
-ContextLine::ContextLine(QWidget* parent, const char* name) : TextLine(parent, name) {}
+ContextLine::ContextLine(QWidget* parent, const char* name) : TextLine(parent, name, kMostLines) {}
 
 void ContextLine::ShowContext(const std::string& text, bool warns) {
   SetLine(QString::fromStdString(text));

@@ -45,7 +45,10 @@ int EntryOf(const QTreeWidgetItem& item) {
 }  // namespace
 
 EntryList::EntryList(QWidget* parent)
-    : QDockWidget(parent), heading_(new QLabel(this)), list_(new QTreeWidget) {
+    : QDockWidget(parent),
+      heading_(new QLabel(this)),
+      place_(new QWidget(this)),
+      list_(new QTreeWidget(place_)) {
   setObjectName("dckEntries");
   setFeatures(NoDockWidgetFeatures);
   heading_->setObjectName("lblEntries");
@@ -67,7 +70,10 @@ EntryList::EntryList(QWidget* parent)
   connect(list_, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) {
     QTimer::singleShot(0, this, [this, entry = EntryOf(*item)] { emit GoBackTo(entry); });
   });
-  setWidget(list_);
+  auto* layout = new QVBoxLayout(place_);
+  layout->setContentsMargins({});
+  layout->addWidget(list_);
+  setWidget(place_);
   SetColumnsByFont();
 }
 
@@ -75,7 +81,10 @@ void EntryList::SetColumnsByFont() {
   list_->header()->setSectionResizeMode(QHeaderView::Fixed);
   list_->header()->setStretchLastSection(false);
   const QFontMetrics metrics = list_->fontMetrics();
-  const int margin = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, list_);
+  // What the style leaves free at both sides of a heading and of an item.
+  const int margin =
+      2 * qMax(style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, list_),
+               style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, list_) + 1);
   widthBeside_ = 2 * list_->frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   for (int place = 0; const Column& column : kColumns) {
     const int text =
@@ -96,10 +105,11 @@ void EntryList::PlaceIn(QMainWindow& window) {
     list_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   }
   const int heightBelow = kLinesBelow * list_->fontMetrics().lineSpacing();
-  list_->setMinimumSize(beside ? QSize(widthBeside_, 0) : QSize(0, heightBelow / 3));
-  list_->setMaximumSize(beside ? QSize(widthBeside_, QWIDGETSIZE_MAX)
-                               : QSize(QWIDGETSIZE_MAX, heightBelow));
+  place_->setMinimumSize(beside ? QSize(widthBeside_, 0) : QSize(0, heightBelow / 3));
+  place_->setMaximumSize(beside ? QSize(widthBeside_, QWIDGETSIZE_MAX)
+                                : QSize(QWIDGETSIZE_MAX, heightBelow));
   window.addDockWidget(area, this);
+  ShowOrCloseUp();
 }
 
 void EntryList::ShowEntries(const std::string& heading, std::span<const EntryLine> entries,
@@ -107,6 +117,15 @@ void EntryList::ShowEntries(const std::string& heading, std::span<const EntryLin
   heading_->setText(QString::fromStdString(heading));
   list_->clear();
   for (const EntryLine& entry : entries) AddEntry(entry, current);
+  ShowOrCloseUp();
+}
+
+void EntryList::ShowOrCloseUp() {
+  const bool isEmpty = list_->topLevelItemCount() == 0;
+  const auto* window = qobject_cast<QMainWindow*>(parentWidget());
+  const bool beside = window->dockWidgetArea(this) == Qt::RightDockWidgetArea;
+  list_->setVisible(!isEmpty);
+  setVisible(!heading_->text().isEmpty() && (beside || !isEmpty));
 }
 
 void EntryList::AddEntry(const EntryLine& entry, int current) {

@@ -14,7 +14,8 @@ namespace corvane {
 
 /// The column beside the fields of the entry window: which entry the window stands at, and the
 /// entries that were made. A click on one before it, or Enter, asks to go back to it. Its size
-/// comes from the font, so that nothing moves when it fills.
+/// comes from the font, and it keeps its place while there is no entry, so that nothing moves
+/// sideways when it fills.
 class EntryList : public QDockWidget {
   Q_OBJECT
 
@@ -24,7 +25,8 @@ class EntryList : public QDockWidget {
   /// At the right of the fields, or below them where the window is too narrow for both.
   void PlaceIn(QMainWindow& window);
 
-  /// The entries in their order, while the window stands at the current one.
+  /// The entries in their order, while the window stands at the current one. Without a heading
+  /// there is nothing to list ever.
   void ShowEntries(const std::string& heading, std::span<const EntryLine> entries, int current);
 
  signals:
@@ -38,7 +40,11 @@ class EntryList : public QDockWidget {
   void AddEntry(const EntryLine& entry, int current);
   void SetColumnsByFont();
 
+  /// Nothing looks like a list before there is one; below the fields it leaves them its room.
+  void ShowOrCloseUp();
+
   QLabel* heading_;
+  QWidget* place_;  ///< of the list
   QTreeWidget* list_;
   int widthBeside_ = 0;
 };

@@ -62,7 +62,13 @@ void Form::Tell(const Refusal& refusal) {
   ShowHint(refusal.text);
   // An empty name would find a control without one.
   if (refusal.field.empty()) return;
-  if (auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field))) FocusField(field);
+  auto* field = findChild<QWidget*>(QString::fromStdString(refusal.field));
+  if (!field) return;
+  FocusField(field);
+  // Who types something else has read it.
+  if (auto* edit = qobject_cast<QLineEdit*>(field)) {
+    connect(edit, &QLineEdit::textChanged, &hint_, &HintLine::Forget, Qt::SingleShotConnection);
+  }
 }
 
 void Form::ShowHint(const std::string& text) {

@@ -62,7 +62,8 @@ class Form : public QMainWindow {
   void Tell(const Refusal& refusal);
 
   /// Says in the line at the foot of the window what has happened. It stays until the next press of
-  /// a button or menu item; then what to do next shows again.
+  /// a button or menu item, and a refusal until its field changes; then what to do next shows
+  /// again.
   void ShowHint(const std::string& text);
 
   /// Puts the focus on a field and selects its text.

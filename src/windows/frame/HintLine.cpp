@@ -18,7 +18,7 @@ constexpr std::pair<const char*, const char*> kNextSteps[] = {
     {"frmInterestbyDay",
      "Type the balance of every day. Compute ADB hands average and interest back."},
     {"frmPortfolio",
-     "Enter opens the account of the marked row. A click on a heading sorts by it."},
+     "Enter opens the account of the marked row. A heading or the menu View sorts the rows."},
     {"frmPortfolioReport", "Print or save the report. Back returns to the table."},
     {"frmInterestReport", "Print or save the days. Back returns to the daily balances."},
 };

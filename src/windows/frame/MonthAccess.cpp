@@ -5,7 +5,7 @@
 #include <QtWidgets>
 
 #include "support/CalendarMonth.h"
-#include "windows/frame/CalendarPopup.h"
+#include "windows/frame/MonthView.h"
 
 namespace corvane {
 
@@ -16,7 +16,7 @@ constexpr std::size_t kMostDays = 31;
 class DayAccess : public QAccessibleInterface {
  public:
   /// `index` is that of the day in its month, from 0.
-  DayAccess(QWidget& month, int index) : month_(month), index_(index) {}
+  DayAccess(MonthView& month, int index) : month_(month), index_(index) {}
 
   bool isValid() const override { return true; }
   QObject* object() const override { return nullptr; }
@@ -39,12 +39,12 @@ class DayAccess : public QAccessibleInterface {
   }
 
   QRect rect() const override {
-    const QRect cell = Calendar().CellRect(Day()).toRect();
+    const QRect cell = month_.CellRect(Day()).toRect();
     return {month_.mapToGlobal(cell.topLeft()), cell.size()};
   }
 
   QAccessible::State state() const override {
-    const bool isCurrent = Day() == Calendar().Current();
+    const bool isCurrent = Day() == month_.Current();
     QAccessible::State state;
     state.focusable = state.selectable = true;
     state.selected = isCurrent;
@@ -53,21 +53,18 @@ class DayAccess : public QAccessibleInterface {
   }
 
  private:
-  const CalendarPopup& Calendar() const {
-    return static_cast<const CalendarPopup&>(*month_.window());
-  }
   Date Day() const {
-    const Date current = Calendar().Current();
+    const Date current = month_.Current();
     return {current.year(), current.month(), std::chrono::day{static_cast<unsigned>(index_ + 1)}};
   }
 
-  QWidget& month_;
+  MonthView& month_;
   int index_;
 };
 
 class MonthAccess : public QAccessibleWidget {
  public:
-  explicit MonthAccess(QWidget* month) : QAccessibleWidget(month, QAccessible::List) {
+  explicit MonthAccess(MonthView* month) : QAccessibleWidget(month, QAccessible::List) {
     int index = 0;
     for (auto& day : days_) {
       day = QAccessible::registerAccessibleInterface(new DayAccess(*month, index++));
@@ -77,7 +74,7 @@ class MonthAccess : public QAccessibleWidget {
     for (const auto day : days_) QAccessible::deleteAccessibleInterface(day);
   }
 
-  int childCount() const override { return DaysOfMonth(Calendar().Current()); }
+  int childCount() const override { return DaysOfMonth(Current()); }
   QAccessibleInterface* child(int index) const override {
     const bool exists = index >= 0 && index < childCount();
     return exists ? QAccessible::accessibleInterface(days_.at(static_cast<std::size_t>(index)))
@@ -89,7 +86,7 @@ class MonthAccess : public QAccessibleWidget {
     return found == days_.end() ? -1 : static_cast<int>(found - days_.begin());
   }
   QAccessibleInterface* focusChild() const override {
-    const auto day = static_cast<unsigned>(Calendar().Current().day());
+    const auto day = static_cast<unsigned>(Current().day());
     return widget()->hasFocus() ? child(static_cast<int>(day) - 1) : nullptr;
   }
   QAccessibleInterface* childAt(int x, int y) const override {
@@ -100,17 +97,14 @@ class MonthAccess : public QAccessibleWidget {
   }
 
  private:
-  const CalendarPopup& Calendar() const {
-    return static_cast<const CalendarPopup&>(*widget()->window());
-  }
+  Date Current() const { return static_cast<const MonthView&>(*widget()).Current(); }
 
   std::array<QAccessible::Id, kMostDays> days_{};
 };
 
-QAccessibleInterface* MakeMonth(const QString& className, QObject* object) {
-  if (className != "QWidget" || object->objectName() != "picMonth") return nullptr;
-  auto* month = static_cast<QWidget*>(object);
-  return qobject_cast<CalendarPopup*>(month->window()) ? new MonthAccess(month) : nullptr;
+QAccessibleInterface* MakeMonth(const QString&, QObject* object) {
+  auto* month = qobject_cast<MonthView*>(object);
+  return month ? new MonthAccess(month) : nullptr;
 }
 
 }  // namespace

@@ -4,11 +4,9 @@
 
 #include "platform/MessageBox.h"
 #include "platform/OpenDialog.h"
-#include "platform/SaveDialog.h"
 #include "portfolio/OpenedCheck.h"
 #include "portfolio/ResultRows.h"
 #include "reports/HtmlText.h"
-#include "reports/SaveName.h"
 #include "support/Paths.h"
 #include "ui_PortfolioWindow.h"
 #include "windows/frame/ContextLine.h"
@@ -22,10 +20,6 @@ namespace {
 
 constexpr int kHelpContext = 12;
 constexpr const char* kTables = "Tables (*.csv *.txt);;All files (*)";
-
-QString Text(const std::filesystem::path& path) {
-  return QString::fromStdString(PathText(path));
-}
 
 }  // namespace
 
@@ -43,8 +37,8 @@ PortfolioWindow::PortfolioWindow(WindowRegistry& registry)
   OnClick(ui_->cmdCancel, [this] { run_.Cancel(); });
   OnClick(ui_->cmdFile, [this] { ChooseFile(); });
   OnClick(ui_->cmdOpen, [this] { cmdOpen_Click(); });
-  OnClick(ui_->cmdReport, [this] { cmdReport_Click(); });
-  OnClick(ui_->cmdSave, [this] { cmdSave_Click(); });
+  OnClick(ui_->cmdReport, [this] { routes().ShowPortfolioReport(ReportOf(files_, end_)); });
+  OnClick(ui_->cmdSave, [this] { saving_.Ask(model_, files_.accounts, session().dataFolder); });
   OnClick(ui_->cmdMain, [this] { routes().ShowMainMenu(); });
   OnMenu(ui_->mnuCheckFile, [this] { ui_->cmdFile->click(); });
   OnMenu(ui_->mnuBalances, [this] { ChooseBalances(); });
@@ -62,6 +56,7 @@ PortfolioWindow::~PortfolioWindow() = default;
 
 void PortfolioWindow::BindTable() {
   ui_->tblResults->setModel(&model_);
+  ui_->tblResults->FillSortMenu(*ui_->mnuView);
   connect(ui_->tblResults->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this](const QModelIndex& row) {
             current_ = row.isValid() ? &model_.RowAt(row.row()) : nullptr;
@@ -195,32 +190,6 @@ void PortfolioWindow::cmdOpen_Click() {
     return ShowHint("A damaged row cannot be opened. " + std::string(row->message));
   }
   routes().OpenCheck(OpenAccount(model_.PartOf(*row), *row->account));
-}
-
-void PortfolioWindow::cmdReport_Click() {
-  routes().ShowPortfolioReport(ReportOf(files_, end_));
-}
-
-void PortfolioWindow::cmdSave_Click() {
-  model_.Settle();
-  RowQuery query = model_.Query();
-  const QString shown = "Only some rows are shown. Save only the accounts that are shown?";
-  if (!query.ShowsAll() && !AskYesNo(this, shown, "Save Results")) query = {};
-  const QString name = Text(files_.accounts.stem()) + "-results.csv";
-  const auto chosen = AskSavePath(
-      this, {"Save Results", Text(session().dataFolder), name, "Tables (*.csv);;All files (*)"});
-  if (chosen) Save(PathOf(chosen->toStdString()), query);
-}
-
-void PortfolioWindow::Save(const std::filesystem::path& file, const RowQuery& query) {
-  ShowHint("Saving " + PathText(file));
-  saving_.Start([this, file, query, parts = model_.Parts()](const auto& cancel) {
-    const auto error = SaveResults(file, parts, query, cancel);
-    return BackgroundTask::Done([this, file, error] {
-      if (error) return Tell(FileNotWritten(*error));
-      ShowHint("Saved as " + PathText(file));
-    });
-  });
 }
 
 }  // namespace corvane

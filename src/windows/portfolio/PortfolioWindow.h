@@ -6,6 +6,7 @@
 #include "windows/frame/Form.h"
 #include "windows/portfolio/FileRun.h"
 #include "windows/portfolio/ResultsModel.h"
+#include "windows/portfolio/ResultsSaving.h"
 
 namespace Ui {
 class PortfolioWindow;
@@ -55,9 +56,6 @@ class PortfolioWindow : public Form {
   const CheckedRow* CurrentRow();
 
   void cmdOpen_Click();
-  void cmdReport_Click();
-  void cmdSave_Click();
-  void Save(const std::filesystem::path& file, const RowQuery& query);
 
   std::unique_ptr<Ui::PortfolioWindow> ui_;
   ContextLine* file_ = nullptr;
@@ -70,7 +68,7 @@ class PortfolioWindow : public Form {
   const CheckedRow* current_ = nullptr;  ///< that is marked
   ResultsModel model_;
   FileRun run_;
-  BackgroundTask saving_;
+  ResultsSaving saving_{*this};
 };
 
 }  // namespace corvane

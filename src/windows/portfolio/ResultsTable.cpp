@@ -41,6 +41,31 @@ void ResultsTable::FitColumns() {
   }
 }
 
+void ResultsTable::FillSortMenu(QMenu& menu) {
+  auto* group = new QActionGroup(&menu);
+  for (int column = 0; column < kTableColumns; ++column) {
+    // Line has the key 1, and what comes after 9 has 0.
+    const int key = (column + 1) % kTableColumns;
+    const QString heading = HeadingOf(static_cast<TableColumn>(column));
+    QAction* item = menu.addAction("Sort by " + heading);
+    item->setObjectName(QString("mnuSort(%1)").arg(column));
+    item->setShortcut(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + key));
+    item->setCheckable(true);
+    item->setChecked(column == 0);
+    group->addAction(item);
+    connect(item, &QAction::triggered, this, [this, column] { SortBy(column); });
+  }
+  connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, group,
+          [group](int column) { group->actions().at(column)->setChecked(true); });
+}
+
+void ResultsTable::SortBy(int column) {
+  const bool again = Order().column == static_cast<TableColumn>(column);
+  const bool descending = again && !Order().descending;
+  horizontalHeader()->setSortIndicator(column,
+                                       descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
 RowQuery ResultsTable::Order() const {
   RowQuery query;
   query.column = static_cast<TableColumn>(horizontalHeader()->sortIndicatorSection());

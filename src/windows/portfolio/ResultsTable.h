@@ -18,8 +18,13 @@ class ResultsTable : public QTableView {
   void FitColumns();
   /// Typing looks nothing up, which would take long in a large table; the filter does.
   void keyboardSearch(const QString&) override {}
+  /// An item, and a key, for each column: chosen, it sorts as a click on the heading does.
+  void FillSortMenu(QMenu& menu);
   /// A query of all rows, in the order that the heading shows.
   RowQuery Order() const;
+
+ private:
+  void SortBy(int column);
 };
 
 }  // namespace corvane

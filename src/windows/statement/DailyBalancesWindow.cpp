@@ -4,6 +4,7 @@
 
 #include "platform/MessageBox.h"
 #include "platform/OpenDialog.h"
+#include "platform/WorkArea.h"
 #include "statement/DayFilling.h"
 #include "statement/DayNotice.h"
 #include "statement/DayTable.h"
@@ -43,8 +44,6 @@ void DailyBalancesWindow::BindFields() {
          {std::pair(balance, kDayBalanceDecimals), std::pair(rate, kDayRateDecimals)}) {
       BindNumeric(field, {.repairMinus = true, .decimals = limit.decimals, .kind = limit.kind});
     }
-    FitToDigits(*balance, DayGrid::kBalanceDigits);
-    FitToDigits(*rate, DayGrid::kRateDigits);
     for (QLineEdit* field : {balance, rate}) {
       SelectTextOnFocus(field);
       OnLostFocus(field, [this, field](const QString&) {
@@ -52,6 +51,9 @@ void DailyBalancesWindow::BindFields() {
       });
     }
   }
+  // Where a page does not fit in its full width, large letters take what long balances would. It
+  // comes last: a rule of a field asks for a width too.
+  grid_->FitFields(PageSize(*this).width() <= WorkArea(*this).width());
 }
 
 void DailyBalancesWindow::BindCommands() {
@@ -154,7 +156,7 @@ void DailyBalancesWindow::ShowPage(int page) {
 }
 
 void DailyBalancesWindow::ShowSummary() {
-  ui_->lblSummary->setText(QString::fromStdString(SummaryText(grid_->Days())));
+  ui_->lblSummary->SetLine(QString::fromStdString(SummaryText(grid_->Days())));
 }
 
 bool DailyBalancesWindow::TakePage() {

@@ -3,6 +3,7 @@
 #include <QtWidgets>
 
 #include "windows/frame/FieldText.h"
+#include "windows/frame/PageLayout.h"
 
 namespace corvane {
 
@@ -10,7 +11,10 @@ namespace {
 
 constexpr int kRowsPerColumn = 11;
 constexpr int kColumns = 3;
-constexpr int kGridColumns = 4;  ///< label, balance, rate and the gap to the next three
+// Three columns have to fit beside each other on a small screen, in a font of 14 points.
+constexpr int kBalanceDigits = 11;  ///< "99999999.99"
+constexpr int kRateDigits = 6;      ///< "10.1234", whose point is narrow
+constexpr int kGridColumns = 4;     ///< label, balance, rate and the gap to the next three
 
 QLineEdit* MakeField(QWidget& parent, const char* name, int index, const char* tip) {
   auto* field = new QLineEdit(&parent);
@@ -70,6 +74,13 @@ DayGrid::Row DayGrid::MakeRow(QFrame& frame, int index) {
   layout_.addWidget(row.balance, line, column + 1);
   layout_.addWidget(row.rate, line, column + 2);
   return row;
+}
+
+void DayGrid::FitFields(bool hasRoom) {
+  for (const Row& row : rows_) {
+    FitToDigits(*row.balance, hasRoom ? FieldLength::kMoney : kBalanceDigits);
+    FitToDigits(*row.rate, kRateDigits);
+  }
 }
 
 QLineEdit* DayGrid::FieldAt(const DayPlace& place) const {

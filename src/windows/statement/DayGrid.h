@@ -27,12 +27,12 @@ class DayGrid : public QObject {
     QLineEdit* rate;
   };
 
-  // Three columns have to fit beside each other on a small screen, in a font of 14 points.
-  static constexpr int kBalanceDigits = 11;  ///< "99999999.99"
-  static constexpr int kRateDigits = 6;      ///< "10.1234", whose point is narrow
-
   /// Makes the fields; the frame owns them. Tab reaches them, day by day, behind the control.
   DayGrid(QFrame& frame, QGridLayout& layout, QWidget& behind);
+
+  /// Makes the fields as wide as the longest amounts, or, with less room, so that the columns fit
+  /// beside each other.
+  void FitFields(bool hasRoom);
 
   const std::array<Row, kDaysPerPage>& Rows() const { return rows_; }
   QLineEdit* FieldAt(const DayPlace& place) const;

@@ -72,8 +72,8 @@ void StatementEntryWindow::BindButtons() {
 }
 
 void StatementEntryWindow::Form_Load() {
-  account_ = AddContextLine("lblContext");
   const StatementSetup& setup = session().statement.setup;
+  AddContextLine("lblContext")->ShowContext(ContextOf(session().header, setup));
   ui_->lblTopic->setText("  APY Earned For Periodic Statement  ");
   ui_->lblAccountInfo->setText(QString::fromStdString(AccountInfoText(setup)));
   ui_->lblAddAPY->setVisible(setup.additionalFormula);
@@ -97,7 +97,6 @@ void StatementEntryWindow::ShowGroups() {
   const std::string note = InterestNoteText(entry);
   ui_->lblIntNote->setText(QString::fromStdString(note));
   ui_->lblIntNote->setVisible(!note.empty());
-  account_->ShowContext(ContextOf(session().header, session().statement));
   ShowNextStep(NextStepOfEntry(entry));
 }
 

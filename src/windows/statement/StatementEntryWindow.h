@@ -12,7 +12,6 @@ class StatementEntryWindow;
 
 namespace corvane {
 
-class ContextLine;
 class DateRange;
 
 /// The statement period: dates or days, rate, minimums, balances and the interest that the
@@ -43,7 +42,6 @@ class StatementEntryWindow : public Form {
   bool Passes(const CheckOutcome& outcome);
 
   std::unique_ptr<Ui::StatementEntryWindow> ui_;
-  ContextLine* account_ = nullptr;
   std::unique_ptr<FieldBinding<StatementEntry>> binding_;
   std::unique_ptr<DateRange> dates_;
 };
