@@ -17,15 +17,16 @@ TEST(WorkArea, CentersFromTheScreensCornerUnlessTheWindowDoesNotFit) {
   for (const auto& c : cases) EXPECT_EQ(CenteredPlace(area, c.window), c.place);
 }
 
-TEST(WorkArea, AWindowStandsBelowOrAboveThePointThatItBelongsTo) {
+TEST(WorkArea, AWindowStandsBelowOrAboveTheButtonThatItBelongsTo) {
   QWidget window;
   window.resize(200, 200);
   const QRect area = WorkArea(window);
-  for (const QPoint& point : {area.topLeft(), area.center(), area.bottomRight() - QPoint(9, 99)}) {
-    PlaceBeside(window, point);
+  for (const QPoint& corner : {area.topLeft(), area.center(), area.bottomRight() - QPoint(9, 99)}) {
+    const QRect button(corner, QSize(30, 20));
+    PlaceBeside(window, button);
     const QRect place(window.pos(), window.size());
-    EXPECT_TRUE(area.contains(place)) << point.y();
-    EXPECT_TRUE(place.top() > point.y() || place.bottom() < point.y()) << point.y();
+    EXPECT_TRUE(area.contains(place)) << corner.y();
+    EXPECT_FALSE(place.intersects(button)) << corner.y();
   }
 }
 
