@@ -27,9 +27,10 @@ qint64 LongestAct() {
   return given > 0 ? given : 1000;
 }
 constexpr std::size_t kActsBetweenWeighing = 1000;
-/// The least of so many weighings holds no buffer of the browser that comes and goes. The first so
-/// many see all windows for the first time; those after them are what later ones are compared with.
+/// The least of so many weighings holds no buffer of the browser that comes and goes. Its caches
+/// fill during the first weighings; those after them are what later ones are compared with.
 constexpr std::size_t kWeighings = 10;
+constexpr std::size_t kFillingCaches = 30;
 constexpr long kMostGrowth = 30;  // MiB
 
 long ResidentMiB() {
@@ -123,8 +124,8 @@ class Runner {
     const long now = ResidentMiB();
     std::cout << next_ << " acts, " << now << " MiB" << std::endl;
     memory_.push_back(now);
-    if (memory_.size() < 3 * kWeighings) return;
-    const long before = LeastOf(memory_.begin() + kWeighings);
+    if (memory_.size() < kFillingCaches + 2 * kWeighings) return;
+    const long before = LeastOf(memory_.begin() + kFillingCaches);
     const long since = LeastOf(memory_.end() - kWeighings);
     if (since - before > kMostGrowth) {
       fault_ =

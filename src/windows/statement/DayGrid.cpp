@@ -100,9 +100,9 @@ std::optional<DayPlace> DayGrid::PlaceOf(const QObject* field) const {
 
 void DayGrid::ShowPage(int page) {
   page_ = page;
-  if (PageOf(place_.day) != page) place_ = {FirstDay()};
-  for (std::size_t row = 0; row < rows_.size(); ++row) ShowRow(row);
   const DaySpan span = DaysOnPage(page, daily_->days.size());
+  if (place_.day < span.first || place_.day >= span.end) place_ = {span.first};
+  for (std::size_t row = 0; row < rows_.size(); ++row) ShowRow(row);
   for (int column = 0; column < kColumns; ++column) {
     const bool hasDays = span.end - span.first > std::size_t(column * kRowsPerColumn);
     for (const int heading : {0, 2}) {
