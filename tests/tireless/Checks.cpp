@@ -3,6 +3,7 @@
 #include <QtWidgets>
 
 #include "disclosure/DisclosureCalculation.h"
+#include "disclosure/EntrySequence.h"
 #include "platform/ProgramFolder.h"
 #include "reports/DisclosureReport.h"
 #include "reports/StatementReport.h"
@@ -31,6 +32,20 @@ std::string StaleField(const Form* window) {
     const bool empty = text.empty() || text == kEmptyDateMask;
     if (!field->isVisibleTo(window) && !empty) {
       return "hidden " + field->objectName().toStdString() + " holds " + text;
+    }
+  }
+  return {};
+}
+
+/// A field that nobody can type into shows what the entries before it make of it.
+template <class Values>
+std::string StaleDisabled(const Form* window, const Values& present) {
+  if (!window || !window->isVisible()) return {};
+  for (const auto& [control, field] : Values::Fields()) {
+    const auto* edit = window->findChild<QLineEdit*>(control);
+    const bool isStale = TextOf(edit) != (present.*field).text;
+    if (isStale && !edit->isEnabled() && !(present.*field).enabled) {
+      return "disabled " + std::string(control) + " holds " + TextOf(edit);
     }
   }
   return {};
@@ -92,9 +107,16 @@ std::string WrongReport(const WindowRegistry& windows, const Session& session) {
 std::string FaultOf(const WindowRegistry& windows, const Session& session) {
   if (windows.HasEnded()) return {};
   if (!AnyWindowShows()) return "no window shows, but the program has not ended";
-  if (auto fault = StaleField(windows.Find<DisclosureEntryWindow>()); !fault.empty()) return fault;
-  if (auto fault = StaleField(windows.Find<StatementEntryWindow>()); !fault.empty()) return fault;
-  return WrongReport(windows, session);
+  const auto* disclosure = windows.Find<DisclosureEntryWindow>();
+  const auto* statement = windows.Find<StatementEntryWindow>();
+  const StatementCheck& check = session.statement;
+  for (const std::string& fault :
+       {StaleField(disclosure), StaleDisabled(disclosure, PresentEntry(session.disclosure)),
+        StaleField(statement), StaleDisabled(statement, PresentEntry(check.setup, check.entry)),
+        WrongReport(windows, session)}) {
+    if (!fault.empty()) return fault;
+  }
+  return {};
 }
 
 }  // namespace corvane
