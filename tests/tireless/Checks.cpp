@@ -39,8 +39,9 @@ std::string StaleField(const Form* window) {
 
 /// A field that nobody can type into shows what the entries before it make of it.
 template <class Values>
-std::string StaleDisabled(const Form* window, const Values& present) {
+std::string StaleDisabled(const Form* window, const std::function<Values()>& presentEntry) {
   if (!window || !window->isVisible()) return {};
+  const Values present = presentEntry();
   for (const auto& [control, field] : Values::Fields()) {
     const auto* edit = window->findChild<QLineEdit*>(control);
     const bool isStale = TextOf(edit) != (present.*field).text;
@@ -110,10 +111,11 @@ std::string FaultOf(const WindowRegistry& windows, const Session& session) {
   const auto* disclosure = windows.Find<DisclosureEntryWindow>();
   const auto* statement = windows.Find<StatementEntryWindow>();
   const StatementCheck& check = session.statement;
+  const std::function ofDisclosure = [&] { return PresentEntry(session.disclosure); };
+  const std::function ofStatement = [&] { return PresentEntry(check.setup, check.entry); };
   for (const std::string& fault :
-       {StaleField(disclosure), StaleDisabled(disclosure, PresentEntry(session.disclosure)),
-        StaleField(statement), StaleDisabled(statement, PresentEntry(check.setup, check.entry)),
-        WrongReport(windows, session)}) {
+       {StaleField(disclosure), StaleDisabled(disclosure, ofDisclosure), StaleField(statement),
+        StaleDisabled(statement, ofStatement), WrongReport(windows, session)}) {
     if (!fault.empty()) return fault;
   }
   return {};
