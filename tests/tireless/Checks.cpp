@@ -24,27 +24,29 @@ bool AnyWindowShows() {
                      [](const QWidget* window) { return window->isVisible(); });
 }
 
+bool IsEmpty(const QLineEdit* field) {
+  return TextOf(field).empty() || TextOf(field) == kEmptyDateMask;
+}
+
 /// A field that does not show must hold nothing that could be computed or printed.
 std::string StaleField(const Form* window) {
   if (!window || !window->isVisible()) return {};
   for (const QLineEdit* field : window->findChildren<QLineEdit*>()) {
-    const std::string text = TextOf(field);
-    const bool empty = text.empty() || text == kEmptyDateMask;
-    if (!field->isVisibleTo(window) && !empty) {
-      return "hidden " + field->objectName().toStdString() + " holds " + text;
+    if (!field->isVisibleTo(window) && !IsEmpty(field)) {
+      return "hidden " + field->objectName().toStdString() + " holds " + TextOf(field);
     }
   }
   return {};
 }
 
-/// A field that nobody can type into shows what the entries before it make of it.
+/// A field that nobody can type into shows nothing, or what the entries before it make of it.
 template <class Values>
 std::string StaleDisabled(const Form* window, const std::function<Values()>& presentEntry) {
   if (!window || !window->isVisible()) return {};
   const Values present = presentEntry();
   for (const auto& [control, field] : Values::Fields()) {
     const auto* edit = window->findChild<QLineEdit*>(control);
-    const bool isStale = TextOf(edit) != (present.*field).text;
+    const bool isStale = !IsEmpty(edit) && TextOf(edit) != (present.*field).text;
     if (isStale && !edit->isEnabled() && !(present.*field).enabled) {
       return "disabled " + std::string(control) + " holds " + TextOf(edit);
     }
