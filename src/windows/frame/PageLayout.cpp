@@ -132,6 +132,21 @@ void AlignColumns(QWidget& window) {
   }
 }
 
+/// Takes away most of what lies between the rows.
+void CloseUp(QWidget& body) {
+  constexpr int kPart = 8;
+  for (auto* layout : body.findChildren<QLayout*>()) {
+    const QMargins drawn = layout->contentsMargins();
+    layout->setContentsMargins(drawn.left(), drawn.top() / kPart, drawn.right(),
+                               drawn.bottom() / kPart);
+    if (auto* grid = qobject_cast<QGridLayout*>(layout)) {
+      grid->setVerticalSpacing(grid->verticalSpacing() / kPart);
+    } else if (qobject_cast<QVBoxLayout*>(layout)) {
+      layout->setSpacing(layout->spacing() / kPart);
+    }
+  }
+}
+
 }  // namespace
 
 void FitToDigits(QLineEdit& field, int digits) {
@@ -168,6 +183,9 @@ void LetBodyScroll(QMainWindow& window) {
   inside->setSpacing(page->spacing());
   const int left = buttons ? page->indexOf(buttons) : page->count();
   for (int item = 1; item < left; ++item) MoveItem(page->takeAt(1), *inside);
+  constexpr int kLinesAround = 9;  // menu, context, buttons, hint
+  const int around = kLinesAround * window.fontMetrics().lineSpacing();
+  if (body->sizeHint().height() + around > WorkArea(window).height()) CloseUp(*body->widget());
 }
 
 void LayOutPage(QWidget& window) {

@@ -23,9 +23,9 @@ void FitToDigits(QLineEdit& field, int digits);
 /// Whether the window shows a text that takes all the room there is, as a report does.
 bool ShowsLongText(const QMainWindow& window);
 
-/// Puts all that stands above the buttons of a window into a part that scrolls where the screen is
-/// too small for it, and follows the focus. The buttons stay in sight, in two rows where one is too
-/// wide for the screen.
+/// Puts all that stands above the buttons of a window into a part whose rows close up where the
+/// screen is too small for it, and that scrolls where that does not do, and follows the focus. The
+/// buttons stay in sight, in two rows where one is too wide for the screen.
 void LetBodyScroll(QMainWindow& window);
 
 /// Fits what depends on the font: headings ("headingFactor" in the window's file), date fields.
