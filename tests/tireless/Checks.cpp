@@ -39,7 +39,8 @@ std::string StaleField(const Form* window) {
   return {};
 }
 
-/// A field that nobody can type into shows nothing, or what the entries before it make of it.
+/// A field that nobody can type into shows nothing, or what the entries before it make of it. Dates
+/// are left out: they stay until the focus leaves the term that is typed in their place.
 template <class Values>
 std::string StaleDisabled(const Form* window, const std::function<Values()>& presentEntry) {
   if (!window || !window->isVisible()) return {};
@@ -47,7 +48,8 @@ std::string StaleDisabled(const Form* window, const std::function<Values()>& pre
   for (const auto& [control, field] : Values::Fields()) {
     const auto* edit = window->findChild<QLineEdit*>(control);
     const bool isStale = !IsEmpty(edit) && TextOf(edit) != (present.*field).text;
-    if (isStale && !edit->isEnabled() && !(present.*field).enabled) {
+    const bool isDate = !edit->inputMask().isEmpty();
+    if (isStale && !isDate && !edit->isEnabled() && !(present.*field).enabled) {
       return "disabled " + std::string(control) + " holds " + TextOf(edit);
     }
   }
