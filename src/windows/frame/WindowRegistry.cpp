@@ -20,7 +20,7 @@ WindowRegistry::WindowRegistry(Session& session) : session_(session) {
 }
 
 WindowRegistry::~WindowRegistry() {
-  for (Form* form : closed_) delete form;
+  for (const Entry& entry : closed_) delete entry.form;
   while (!open_.empty()) {
     Form* form = open_.back().form;
     open_.pop_back();
@@ -38,7 +38,7 @@ Form* WindowRegistry::FindForm(std::type_index type) const {
 }
 
 void WindowRegistry::Add(std::type_index type, Form* form) {
-  open_.push_back({type, form});
+  open_.push_back({type, form, qMax(1, QThread::currentThread()->loopLevel())});
   form->Load();
 }
 
@@ -86,6 +86,7 @@ void WindowRegistry::RunModal(Form& form) {
   modal_.push_back(&form);
   loop.exec(QEventLoop::DialogExec);
   modal_.pop_back();
+  DeleteClosed();
 }
 
 bool WindowRegistry::IsInFront(const Form& form) const {
@@ -97,17 +98,23 @@ bool WindowRegistry::IsInFront(const Form& form) const {
 
 void WindowRegistry::Close(Form& form) {
   if (ended_) return;
-  std::erase_if(open_, [&form](const Entry& entry) { return entry.form == &form; });
+  const auto place = std::find_if(open_.begin(), open_.end(),
+                                  [&form](const Entry& entry) { return entry.form == &form; });
+  if (place == open_.end()) return;
+  const Entry entry = *place;
+  open_.erase(place);
   Unload(form);
-  closed_.push_back(&form);
+  closed_.push_back(entry);
   DeleteClosed();
 }
 
 void WindowRegistry::DeleteClosed() {
-  // A handler of the form may be waiting for a box or a window that keeps its own loop of events.
-  if (QThread::currentThread()->loopLevel() > 1) return;
-  // Or it is the one that closes it.
-  for (Form* form : std::exchange(closed_, {})) form->deleteLater();
+  const int loop = QThread::currentThread()->loopLevel();
+  std::erase_if(closed_, [loop](const Entry& entry) {
+    // Later, as a handler of the form may be the one that closes it.
+    if (loop <= entry.loop) entry.form->deleteLater();
+    return loop <= entry.loop;
+  });
 }
 
 void WindowRegistry::Unload(Form& form) {

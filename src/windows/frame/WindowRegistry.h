@@ -80,6 +80,7 @@ class WindowRegistry {
   struct Entry {
     std::type_index type;
     Form* form;
+    int loop;  ///< the loop of events in which it was made, 1 being the program's own
   };
 
   Form* FindForm(std::type_index type) const;
@@ -89,14 +90,15 @@ class WindowRegistry {
   /// Main windows follow each other as the pages of one window: same place, same size.
   void PlaceBeforeShowing(Form& form);
   void BringToFront(Form& form);
-  /// Once none of their handlers can be waiting.
+  /// Those of whose handlers none can be waiting: they all run in the loop of events in which the
+  /// form was made, or in one that this one waits for.
   void DeleteClosed();
 
   Session& session_;
   Routes routes_{*this};
   PressGuard presses_;
   std::vector<Entry> open_;         ///< oldest first
-  std::vector<Form*> closed_;       ///< that still have to be deleted
+  std::vector<Entry> closed_;       ///< that still have to be deleted
   std::vector<const Form*> modal_;  ///< whose loops run, the innermost last
   bool ended_ = false;
 };
