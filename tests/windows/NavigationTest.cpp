@@ -183,6 +183,14 @@ TEST_F(Navigation, TheProgramEndsUnderAWindowThatWaitsForAnother) {
   bool returned = false;
   QTimer::singleShot(0, qApp, [&] {
     WhenShown<DailyBalancesWindow>([this] {
+      QPointer<Form> above;
+      WhenShown<AboutWindow>([&] {
+        above = Front();
+        CloseByFrame();
+      });
+      windows.RunModal(windows.Get<AboutWindow>());
+      EXPECT_TRUE(QTest::qWaitFor([&] { return !above; })) << "no handler waits for it";
+      InFront<DailyBalancesWindow>();
       Type("txtDayBal(0)", "7");
       windows.EndProgram();
       windows.routes().StartDisclosure();
