@@ -21,7 +21,8 @@ TEST(WorkArea, AWindowStandsBelowOrAboveTheButtonThatItBelongsTo) {
   QWidget window;
   window.resize(200, 200);
   const QRect area = WorkArea(window);
-  for (const QPoint& corner : {area.topLeft(), area.center(), area.bottomRight() - QPoint(99, 99)}) {
+  for (const QPoint& corner :
+       {area.topLeft(), area.center(), area.bottomRight() - QPoint(99, 99)}) {
     const QRect button(corner, QSize(30, 20));
     PlaceBeside(window, button);
     const QRect place(window.pos(), window.size());
