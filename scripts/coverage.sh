@@ -13,7 +13,8 @@ folders="support formulas account disclosure statement reports portfolio"
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS="--coverage -fprofile-update=atomic" >/dev/null
 cmake --build "$build"
 find "$build" -name '*.gcda' -delete
-ctest --test-dir "$build" -j 2 -E TirelessPerson </dev/null | tail -3
+ctest --test-dir "$build" -j 2 -E TirelessPerson --output-on-failure </dev/null \
+  >"$build/tests.log" || { cat "$build/tests.log"; exit 1; }
 
 report() { # folder, further options
   folder=$1

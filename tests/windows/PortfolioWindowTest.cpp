@@ -54,7 +54,7 @@ TEST_F(PortfolioWindowTest, AHundredThousandAccountsShowWhileTheyAreReadAndAreSo
   EXPECT_TRUE(QTest::qWaitFor([&] { return table->model()->rowCount() > 0; }));
   EXPECT_TRUE(window.IsReading());
   table->scrollToBottom();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !window.IsReading(); }, 30000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !window.IsReading(); }, 100000));
   EXPECT_EQ(table->model()->rowCount(), kAccounts);
   EXPECT_EQ(Caption("lblCounts"), "100,000 accounts: 99,000 OK, 1,000 violations, 0 refused.");
 
