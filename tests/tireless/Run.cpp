@@ -31,8 +31,7 @@ constexpr std::size_t kActsBetweenWeighing = 1000;
 /// fill during the first weighings; those after them are what later ones are compared with.
 constexpr std::size_t kWeighings = 10;
 constexpr std::size_t kFillingCaches = 30;
-/// More than the 35 MiB that the browser takes at once, sooner or later.
-constexpr long kMostGrowth = 60;  // MiB
+constexpr long kMostGrowth = 30;  // MiB
 
 long ResidentMiB() {
   long pages = 0;
