@@ -12,7 +12,8 @@ for_run="cmake ninja-build g++ qt6-base-dev qt6-pdf-dev qt6-webengine-dev libgl-
 for_test="$for_run libgtest-dev"
 for_package="$for_run dpkg-dev file"
 for_ci="$for_test dpkg-dev file libbenchmark-dev clang-format clang-tidy cppcheck gcovr python3
-  desktop-file-utils appstream clang libclang-rt-dev"
+  desktop-file-utils appstream clang libclang-rt-dev
+  xvfb dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi"
 
 case "${1:-ci}" in
   run) packages=$for_run ;;

@@ -37,7 +37,7 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
 }  // namespace
 
 QString CaptionText(QString caption) {
-  static const QRegularExpression accessKey("&(.)");
+  static const QRegularExpression accessKey("&(\\S)");
   static const QRegularExpression end("[ :]+$");
   return caption.replace(accessKey, "\\1").simplified().remove(end);
 }
