@@ -1,5 +1,8 @@
 #include "platform/browser/PrintedPages.h"
 
+#include <cerrno>
+#include <system_error>
+
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfDocument>
@@ -52,7 +55,8 @@ TEST(PrintedPages, CarryTitleAndFootAsTextAndKeepTheirOwn) {
   EXPECT_TRUE(WithLabels("no document", {}, {}).isEmpty());
   QPrinter printer;
   printer.setOutputFileName("/no folder/report.pdf");
-  EXPECT_EQ(PrintPages("", printer), "/no folder/report.pdf\nNo such file or directory");
+  EXPECT_EQ(PrintPages("", printer).toStdString(),
+            "/no folder/report.pdf\n" + std::generic_category().message(ENOENT));
 }
 
 }  // namespace

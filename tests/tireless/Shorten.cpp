@@ -36,9 +36,11 @@ QString FaultOf(const std::string& program, const std::vector<Act>& acts) {
     std::ofstream out(file.toStdString());
     for (const Act& act : acts) out << TextOf(act) << '\n';
   }
-  const int status = std::system(
-      (Quoted(QString::fromStdString(program)) + " " + Quoted(file) + " 2>" + Quoted(errors))
-          .c_str());
+  // It may end at once, wherever it is: its home goes with this folder.
+  const int status = std::system(("TMPDIR=" + Quoted(folder.path()) + " " +
+                                  Quoted(QString::fromStdString(program)) + " " + Quoted(file) +
+                                  " 2>" + Quoted(errors))
+                                     .c_str());
   QFile said(errors);
   said.open(QIODevice::ReadOnly);
   QString fault;

@@ -12,6 +12,12 @@
 namespace corvane {
 namespace {
 
+/// The reason comes in the language of the system.
+std::string NotWritten(const std::string& file, int reason) {
+  return "The report could not be written: " + file + "\n" +
+         std::generic_category().message(reason);
+}
+
 class ReportWindows : public WindowTest {
  protected:
   void SetUp() override {
@@ -167,9 +173,7 @@ TEST_F(ReportWindows, SaveAsWritesThePageUnderTheFixedName) {
     EXPECT_EQ(saved(), reply == QMessageBox::Yes ? page : "");
   }
   answer = "none/report.html";
-  Expect({"The report could not be written: " + folder.filePath(answer).toStdString() +
-              "\nNo such file or directory",
-          "Error!", MessageIcon::None});
+  Expect({NotWritten(folder.filePath(answer).toStdString(), ENOENT), "Error!", MessageIcon::None});
   Menu("mnuSave");
 }
 
@@ -177,9 +181,8 @@ TEST_F(ReportWindows, WithoutAReportPrintAndSaveDoNothing) {
   const auto folder = session.dataFolder;
   std::filesystem::remove_all(folder);
   EXPECT_FALSE(WriteWholeFile(folder, "a file where the folder should be"));
-  Expect({"The report could not be written: " + PathText(folder) +
-              "/Disclosed_APY_Summary.html\nNot a directory",
-          "Error!", MessageIcon::None});
+  Expect({NotWritten(PathText(folder) + "/Disclosed_APY_Summary.html", ENOTDIR), "Error!",
+          MessageIcon::None});
   Compute();
   SetSaveAnswer([](const SaveQuestion&) -> std::optional<QString> {
     ADD_FAILURE() << "there is nothing to save";
