@@ -47,8 +47,4 @@ std::vector<std::string> YearParts(const YearRule& year) {
           year.countsLeapDay ? "29 Feb counted" : "29 Feb not counted"};
 }
 
-std::string CountText(int count, const std::string& one) {
-  return FormatGroupedWhole(count) + " " + one + (count == 1 ? "" : "s");
-}
-
 }  // namespace corvane

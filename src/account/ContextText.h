@@ -23,7 +23,4 @@ std::string CompoundingText(const Compounding& compounding);
 /// "365 days" and "29 Feb not counted".
 std::vector<std::string> YearParts(const YearRule& year);
 
-/// A whole number and what it counts: "1 day", "30 days".
-std::string CountText(int count, const std::string& one);
-
 }  // namespace corvane

@@ -4,6 +4,7 @@
 
 #include "portfolio/ResultRows.h"
 #include "support/Clock.h"
+#include "support/NumberText.h"
 #include "support/Paths.h"
 #include "support/ProgramVersion.h"
 
@@ -119,10 +120,8 @@ bool CheckRun::Finish() {
 
 void CheckRun::TellEnd() {
   progress_.End();
-  const AccountCounts& total = summary_.Total();
-  std::fprintf(stderr, "%s%zu rows, %zu accounts: %zu OK, %zu violations, %zu refused\n",
-               cancel_ ? "Interrupted: " : "", summary_.RowCount(), total.accounts, total.Ok(),
-               total.violations, total.refused);
+  std::fprintf(stderr, "%s%s, %s\n", cancel_ ? "Interrupted: " : "",
+               CountText(summary_.RowCount(), "row").c_str(), CountsText(summary_.Total()).c_str());
 }
 
 ExitStatus CheckRun::Run() {

@@ -10,10 +10,6 @@ namespace corvane {
 
 namespace {
 
-std::string CountText(std::size_t count) {
-  return FormatGroupedWhole(static_cast<double>(count));
-}
-
 std::string Row(const std::string& cells) {
   return std::string(kRowStart).append(cells).append(kRowEnd);
 }
@@ -23,14 +19,14 @@ std::string LeftCell(std::string_view text) {
 }
 
 std::string CountRow(const std::string& name, const AccountCounts& counts) {
-  return Row(PlainCell(name) + PlainCell(CountText(counts.accounts)) +
-             PlainCell(CountText(counts.Ok())) + PlainCell(CountText(counts.violations)) +
-             PlainCell(CountText(counts.refused)));
+  return Row(PlainCell(name) + PlainCell(FormatCount(counts.accounts)) +
+             PlainCell(FormatCount(counts.Ok())) + PlainCell(FormatCount(counts.violations)) +
+             PlainCell(FormatCount(counts.refused)));
 }
 
 /// Line, account and description of a row.
 std::string NameCells(const PortfolioRow& row) {
-  return PlainCell(CountText(row.line)) + LeftCell(row.Cell(Column::Account)) +
+  return PlainCell(FormatCount(row.line)) + LeftCell(row.Cell(Column::Account)) +
          LeftCell(row.Cell(Column::Description));
 }
 
@@ -53,9 +49,16 @@ std::vector<std::string> PortfolioSummary::Listed::Table() const {
   constexpr const char* kWhole = "<TR><TD class=text colspan=8>";
   if (count == 0) table.push_back(std::string(kWhole).append("None.</TD></TR>"));
   if (count > rows.size()) {
-    table.push_back(kWhole + CountText(count - rows.size()) + " more: see the results.</TD></TR>");
+    table.push_back(kWhole + FormatCount(count - rows.size()) +
+                    " more: see the results.</TD></TR>");
   }
   return table;
+}
+
+std::string CountsText(const AccountCounts& counts) {
+  return CountText(counts.accounts, "account") + ": " + FormatCount(counts.Ok()) + " OK, " +
+         CountText(counts.violations, "violation") + ", " + FormatCount(counts.refused) +
+         " refused";
 }
 
 void PortfolioSummary::Take(const CheckedBatch& batch) {
@@ -105,7 +108,7 @@ ReportContent PortfolioSummary::Content(const std::string& files, const std::str
       .tags = {{"^rundate^", {EscapeHtml(moment)}},
                {"^files^", {EscapeHtml(files)}},
                {"^program^", {EscapeHtml(program)}},
-               {"^rows^", {CountText(rows_)}}},
+               {"^rows^", {FormatCount(rows_)}}},
       .rows = {SameRows("^countrow^", std::move(counts)),
                SameRows("^violationrow^", violations_.Table()),
                SameRows("^refusedrow^", refused_.Table()), SameRows("^noterow^", notes_.Table())}};

@@ -19,6 +19,9 @@ struct AccountCounts {
   std::size_t Ok() const { return accounts - violations - refused; }
 };
 
+/// "12 accounts: 9 OK, 2 violations, 1 refused".
+std::string CountsText(const AccountCounts& counts);
+
 /// Gathers what a report of a run shows: counts by kind, and the rows of violations, of refusals
 /// and of notes, of each no more than kMostRows, so that memory does not grow with the file.
 class PortfolioSummary {

@@ -12,8 +12,7 @@ void ProgressLine::Show(std::size_t rows, std::size_t bytesRead) {
   last_ = now;
   const double seconds = std::chrono::duration<double>(now - begin_).count();
   const double perSecond = static_cast<double>(rows) / seconds;
-  std::string line = FormatGroupedWhole(static_cast<double>(rows)) + " rows, " +
-                     FormatGroupedWhole(perSecond) + " a second";
+  std::string line = CountText(rows, "row") + ", " + FormatGroupedWhole(perSecond) + " a second";
   if (bytes_ > bytesRead && bytesRead > 0) {
     const double left =
         seconds * static_cast<double>(bytes_ - bytesRead) / static_cast<double>(bytesRead);

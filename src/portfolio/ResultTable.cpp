@@ -15,10 +15,6 @@ constexpr const char* kHeadings[] = {"Line",         "Account",    "Verdict",  "
                                      "Computed APY", "Difference", "Interest", "Check",
                                      "Description",  "Message"};
 
-std::string CountText(std::size_t count) {
-  return FormatGroupedWhole(static_cast<double>(count));
-}
-
 std::string CheckText(const CheckedRow& row) {
   const CheckedAccount& account = *row.account;
   return std::string(account.isStatement ? "Statement, " : "Disclosure, ") +
@@ -108,7 +104,7 @@ std::string CellText(const CheckedRow& row, TableColumn column) {
   if (!IsNumeric(column)) return std::string(TextOf(row, column));
   const auto number = NumberOf(row, column);
   if (!number) return "";
-  return column == TableColumn::Line ? CountText(row.line) : FormatGrouped2(*number);
+  return column == TableColumn::Line ? FormatCount(row.line) : FormatGrouped2(*number);
 }
 
 bool Matches(const CheckedRow& row, const RowQuery& query) {
@@ -148,11 +144,9 @@ std::optional<FileError> SaveResults(const std::filesystem::path& file, const Ch
 }
 
 std::string CountsText(const AccountCounts& counts, std::size_t rowsShown, std::size_t rows) {
-  const std::string text = CountText(counts.accounts) + " accounts: " + CountText(counts.Ok()) +
-                           " OK, " + CountText(counts.violations) + " violations, " +
-                           CountText(counts.refused) + " refused.";
+  const std::string text = CountsText(counts) + ".";
   if (rowsShown == rows) return text;
-  return text + " " + CountText(rowsShown) + " of " + CountText(rows) + " rows shown.";
+  return text + " " + FormatCount(rowsShown) + " of " + CountText(rows, "row") + " shown.";
 }
 
 }  // namespace corvane

@@ -53,7 +53,7 @@ std::string InterestOfDaysHtml(const DailyBalances& daily, const PeriodInterest&
       const std::size_t day = column.first + k;
       const bool isDay = day < column.end;
       AddTableCell(cells, isDay ? FormatDate(AddDays(daily.start, static_cast<int>(day))) : "");
-      AddTableCell(cells, isDay ? FormatFixed6(interest.ofDay[day]) : "");
+      AddTableCell(cells, isDay ? FormatGrouped6(interest.ofDay[day]) : "");
     }
   }
   return TableHtml("Interest of Each Day",
@@ -78,7 +78,7 @@ ReportContent InterestReport(const AccountHeader& header, const StatementCheck& 
       {"^enddate^", {FormatDate(AddDays(daily.start, LastDay(daily)))}},
       {"^days^", {std::to_string(daily.days.size())}},
       {"^adb^", {DollarText(earned.averageBalance)}},
-      {"^interest^", {"$" + FormatFixed6(earned.interest.total)}},
+      {"^interest^", {"$" + FormatGrouped6(earned.interest.total)}},
       {"^rule^", {InterestRule(daily.account)}},
   });
   tags["^interestofdays^"].text = InterestOfDaysHtml(daily, earned.interest);

@@ -134,12 +134,12 @@ std::string FormatFixed2(double value) {
   return FixedText(value, 2);
 }
 
-std::string FormatFixed6(double value) {
-  return FixedText(value, 6);
-}
-
 std::string FormatGrouped2(double value) {
   return Grouped(FixedText(value, 2));
+}
+
+std::string FormatGrouped6(double value) {
+  return Grouped(FixedText(value, 6));
 }
 
 std::string FormatGroupedWhole(double value) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -42,14 +43,24 @@ bool IsWhole(double value);
 // exact half goes to the even neighbour) and use "." whatever the locale.
 
 std::string FormatFixed2(double value);     ///< "######0.00": 1234.5 gives 1234.50
-std::string FormatFixed6(double value);     ///< "######0.000000": the interest of a day
 std::string FormatGrouped2(double value);   ///< "##,##0.00": 1234.5 gives 1,234.50
+std::string FormatGrouped6(double value);   ///< "##,##0.000000": the interest of a day
 std::string FormatRate(double value);       ///< "######0.00##": 5 gives 5.00, 5.1234 stays
 std::string FormatTerm(double value);       ///< "#.00": 0.5 gives .50
 std::string FormatTwoDigits(double value);  ///< "00": 3 gives 03
 std::string FormatWhole(double value);      ///< "#0": 12.4 gives 12
 std::string FormatDollars(double value);    ///< "$#,###.00": -1234.5 gives -$1,234.50, 0 gives $.00
 std::string FormatGroupedWhole(double value);  ///< "##,##0": 1234.5 gives 1,234
+
+/// "##,##0": 1234 gives 1,234
+std::string FormatCount(std::integral auto count) {
+  return FormatGroupedWhole(static_cast<double>(count));
+}
+
+/// What is counted, and how many: "1 day", "30 days".
+std::string CountText(std::integral auto count, const std::string& one) {
+  return FormatCount(count) + " " + one + (count == 1 ? "" : "s");
+}
 
 /// The shortest decimal text of the value: 365 gives "365", 4.5 gives "4.5".
 std::string FormatPlain(double value);

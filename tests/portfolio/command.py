@@ -45,7 +45,7 @@ class Command(unittest.TestCase):
         text = lambda rows: self.file(f"{len(rows)}.csv", HEADER + rows)
         cases = [
             (0, [text(OK + STEPPED)], " 0 refused"),
-            (1, [text(OK + VIOLATION)], " 1 violations"),
+            (1, [text(OK + VIOLATION)], " 1 violation,"),
             (2, [text(VIOLATION + REFUSED)], " 1 refused"),
             (2, [text(OK), text(OK + VIOLATION + REFUSED)], "4 rows"),
             (3, [self.file("missing.csv")], "No such file"),

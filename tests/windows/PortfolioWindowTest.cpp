@@ -133,14 +133,14 @@ TEST_F(PortfolioWindowTest, FilesThatAreDroppedAreToldApart) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !table.IsReading() && boxes.empty(); })) << read;
   }
   auto& window = InFront<PortfolioWindow>();
-  EXPECT_EQ(Caption("lblCounts"), "1 accounts: 0 OK, 0 violations, 1 refused.");
+  EXPECT_EQ(Caption("lblCounts"), "1 account: 0 OK, 0 violations, 1 refused.");
   Drop(window, {days});
   EXPECT_TRUE(QTest::qWaitFor([&] { return Caption("lblFile").ends_with("days.csv"); }));
   Drop(window, {days, accounts});
   EXPECT_TRUE(
       QTest::qWaitFor([&] { return Caption("lblCounts").find("1 OK") != std::string::npos; }));
   EXPECT_EQ(Caption("lblFile"), accounts.string() + ", daily balances: days.csv");
-  EXPECT_EQ(Caption("lblCounts"), "1 accounts: 1 OK, 0 violations, 0 refused.");
+  EXPECT_EQ(Caption("lblCounts"), "1 account: 1 OK, 0 violations, 0 refused.");
 }
 
 }  // namespace
