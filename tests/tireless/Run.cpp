@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
+#include <map>
 #include <thread>
 #include <utility>
 
@@ -13,6 +14,7 @@
 #include <QElapsedTimer>
 #include <QThread>
 #include <QTimer>
+#include <QtWidgets>
 
 #include "Checks.h"
 #include "Person.h"
@@ -26,6 +28,8 @@ qint64 LongestAct() {
   static const int given = qEnvironmentVariableIntValue("CORVANE_LONGEST_ACT");
   return given > 0 ? given : 1000;
 }
+/// A window that so many acts do not leave cannot be left.
+constexpr std::size_t kLongestStay = 2000;
 constexpr std::size_t kActsBetweenWeighing = 1000;
 /// The least of so many weighings holds no buffer of the browser that comes and goes. Its caches
 /// fill during the first weighings; those after them are what later ones are compared with.
@@ -83,6 +87,11 @@ class Runner {
     if (PutAwayDialog()) return;
     const std::size_t act = next_++;
     from_ = FrontName();
+    ++actsIn_[from_];
+    stay_ = from_ == stayedIn_ ? stay_ + 1 : 0;
+    stayedIn_ = from_;
+    longestStay_ = std::max(longestStay_, stay_);
+    if (stay_ > kLongestStay) fault_ = "nothing leads out of " + Stuck();
     clock_.start();
     started_ = act;
     const int before = std::exchange(actingIn_, loops);
@@ -113,6 +122,12 @@ class Runner {
   std::string FrontName() const {
     const Form* front = windows_ ? person_->Front(0) : nullptr;
     return front ? front->objectName().toStdString() : "";
+  }
+
+  /// The window that takes the acts, or the message that keeps them from all.
+  std::string Stuck() const {
+    const auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    return message ? "the message: " + message->text().toStdString() : "the window " + from_;
   }
 
   static long LeastOf(std::vector<long>::const_iterator first) {
@@ -152,6 +167,8 @@ class Runner {
       std::cout << timed.milliseconds << " ms: " << TextOf(acts_[timed.act]) << "  "
                 << timed.windows << std::endl;
     }
+    for (const auto& [window, acts] : actsIn_) std::cout << acts << " acts in " << window << '\n';
+    std::cout << "longest stay in one " << longestStay_ << std::endl;
     return fault_.empty() ? 0 : 1;
   }
 
@@ -159,6 +176,9 @@ class Runner {
   std::atomic<std::size_t> next_ = 0;
   std::size_t started_ = 0;
   std::string from_;
+  std::map<std::string, std::size_t> actsIn_;  ///< by the window in front
+  std::string stayedIn_;
+  std::size_t stay_ = 0, longestStay_ = 0;  ///< acts in one window
   std::size_t weighed_ = 0;
   int actingIn_ = -1;         ///< the loop of events that an act was begun in
   std::vector<long> memory_;  ///< MiB, as weighed

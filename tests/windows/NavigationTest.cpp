@@ -207,6 +207,26 @@ TEST_F(Navigation, TheProgramEndsUnderAWindowThatWaitsForAnother) {
   for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(Navigation, AMessageGoesWithItsWindow) {
+  Open<MainMenu>();
+  Open<StatementEntryWindow>();
+  bool wentByItself = true;
+  SetMessageBoxObserver([&](QMessageBox& box) {
+    windows.routes().ShowMainMenu();
+    QTimer::singleShot(2000, &box, [&] {
+      wentByItself = false;
+      box.reject();
+    });
+  });
+  QTimer::singleShot(0, qApp, [this] {
+    Click("cmdCalculate");
+    QCoreApplication::exit();
+  });
+  QApplication::exec();
+  EXPECT_TRUE(wentByItself);
+  InFront<MainMenu>();
+}
+
 TEST_F(Navigation, AScreenReaderHearsCaptionsAsTheyAreNow) {
   const auto nameOf = [this](const char* control) {
     return QAccessible::queryAccessibleInterface(Get<QWidget>(control))

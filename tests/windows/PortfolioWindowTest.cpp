@@ -121,6 +121,13 @@ TEST_F(PortfolioWindowTest, FilesThatAreDroppedAreToldApart) {
                              "S,statement,3.00,3,2024-01-01,2024-01-03,adb,0,0\n";
   std::ofstream(days) << "account,date,balance\nS,2024-01-01,1000\nS,2024-01-02,1000\n";
   windows.Show<MainMenu>();
+  auto& menu = InFront<MainMenu>();
+  // Taken once the drop is over: by then the person may have gone on.
+  Drop(menu, {accounts});
+  windows.routes().StartStatement();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(IsVisible<PortfolioWindow>());
+  windows.routes().ShowMainMenu();
   InFront<MainMenu>();
   for (const char* read : {"a file", "another"}) {
     Expect({.text = "The file has statements without an average balance.\nDo you want to choose "

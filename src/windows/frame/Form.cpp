@@ -113,6 +113,12 @@ void Form::OnMenu(QAction* item, Handler handler) {
   });
 }
 
+void Form::OnDrop(FileDrop::Handler handler) {
+  new FileDrop(*this, [this, handler](const auto& files) {
+    if (BeginsToAct()) handler(files);
+  });
+}
+
 void Form::OnLostFocus(QWidget* field, FormFocus::LostHandler handler) {
   focus_.OnLost(field, std::move(handler));
 }

@@ -13,6 +13,7 @@
 #include "account/Refusal.h"
 #include "windows/frame/Captions.h"
 #include "windows/frame/FieldText.h"
+#include "windows/frame/FileDrop.h"
 #include "windows/frame/FormFocus.h"
 #include "windows/frame/FormKeys.h"
 #include "windows/frame/NumericFields.h"
@@ -88,12 +89,14 @@ class Form : public QMainWindow {
   Routes& routes();
   WindowRegistry& windows() { return windows_; }
 
-  /// The wiring of a form's handlers. A button and a menu item take the focus before they act, and
-  /// do not act when the field that loses it holds on to it, nor when the form is not in front.
+  /// The wiring of a form's handlers, which do not act when the form is not in front. A button and
+  /// a menu item take the focus before they act, and do not act when the field that loses it holds
+  /// on to it.
   void OnClick(QAbstractButton* button, Handler handler);
   /// What Enter presses while no other button has the focus: the first that can be pressed.
   void EnterPresses(const std::vector<QPushButton*>& buttons) { enter_.Choose(buttons); }
   void OnMenu(QAction* item, Handler handler);
+  void OnDrop(FileDrop::Handler handler);
   void OnLostFocus(QWidget* field, FormFocus::LostHandler handler);
 
   /// Gives the elements of field arrays back the names that they have in the form's file, such as
@@ -129,7 +132,7 @@ class Form : public QMainWindow {
   bool focusNextPrevChild(bool next) override;
 
  private:
-  /// Whether a button or menu item may act; what happened before is over then.
+  /// Whether a button, a menu item or dropped files may act; what happened before is over then.
   bool BeginsToAct();
 
   WindowRegistry& windows_;

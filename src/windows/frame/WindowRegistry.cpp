@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <QApplication>
+#include <QDialog>
 #include <QEventLoop>
 #include <QThread>
 
@@ -118,6 +119,11 @@ void WindowRegistry::DeleteClosed() {
 }
 
 void WindowRegistry::Unload(Form& form) {
+  // A message that the window still shows goes with it: disabled as the window is, it would hold
+  // all others and nobody could answer it.
+  for (auto* message : form.findChildren<QDialog*>()) {
+    if (message->isVisible()) message->reject();
+  }
   form.hide();
   // Keys and clicks that were under way still reach it until it is deleted.
   form.setEnabled(false);

@@ -11,7 +11,6 @@
 #include "ui_PortfolioWindow.h"
 #include "windows/frame/ContextLine.h"
 #include "windows/frame/FieldText.h"
-#include "windows/frame/FileDrop.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -49,7 +48,7 @@ PortfolioWindow::PortfolioWindow(WindowRegistry& registry)
   ui_->mnuSaveResults->setShortcut(QKeySequence::Save);
   EnterPresses({ui_->cmdOpen, ui_->cmdFile});
   BindCommonMenus(kHelpContext);
-  new FileDrop(*this, [this](const auto& files) { CheckFiles(files); });
+  OnDrop([this](const auto& files) { CheckFiles(files); });
 }
 
 PortfolioWindow::~PortfolioWindow() = default;

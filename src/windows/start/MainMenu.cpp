@@ -6,7 +6,6 @@
 #include "reports/DataFolder.h"
 #include "support/IniFile.h"
 #include "ui_MainMenu.h"
-#include "windows/frame/FileDrop.h"
 #include "windows/frame/WindowRegistry.h"
 
 namespace corvane {
@@ -35,7 +34,7 @@ MainMenu::MainMenu(WindowRegistry& registry)
   OnMenu(ui_->mnuShowTitle, [this] { mnuShowTitle_Click(); });
   OnMenu(ui_->mnuAbout, [this] { routes().ShowAbout(); });
   OnMenu(ui_->mnuCheckFile, [this] { routes().ShowTable(); });
-  new FileDrop(*this, [this](const auto& files) { routes().CheckFiles(files); });
+  OnDrop([this](const auto& files) { routes().CheckFiles(files); });
   BindCommonMenus(kHelpContext);
 }
 
