@@ -279,9 +279,8 @@ def use(program):
     Atspi.init()
     Atspi.get_desktop(0).get_child_count()
     reader = Reader()
-    with tempfile.TemporaryDirectory() as home, tempfile.TemporaryFile() as said:
-        surroundings = {"HOME": home, "XDG_RUNTIME_DIR": home, "LANG": "C.UTF-8"}
-        surroundings |= {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb"}
+    with tempfile.TemporaryFile() as said:
+        surroundings = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb"}
         process = subprocess.Popen([program], env=os.environ | surroundings, stderr=said)
         try:
             walk(reader)
@@ -308,15 +307,18 @@ def main():
     if sys.argv[1] == "--inside":
         sys.exit(use(program))
     ours, theirs = os.pipe()
-    server = subprocess.Popen(
-        ["Xvfb", "-noreset", "-displayfd", str(theirs), "-screen", "0", "1024x768x24"],
-        pass_fds=[theirs],
-        stderr=subprocess.DEVNULL,
-    )
+    command = ["Xvfb", "-noreset", "-displayfd", str(theirs), "-screen", "0", "1024x768x24"]
+    server = subprocess.Popen(command, pass_fds=[theirs])
+    os.close(theirs)
     try:
         display = os.read(ours, 20).decode().strip()
+        if not display:
+            sys.exit("Xvfb did not start")
         command = ["dbus-run-session", "--", sys.executable, __file__, "--inside", program]
-        done = subprocess.run(command, env=os.environ | {"DISPLAY": ":" + display}, timeout=300)
+        with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as home:
+            surroundings = {"DISPLAY": ":" + display, "LANG": "C.UTF-8"}
+            surroundings |= {"HOME": home, "XDG_RUNTIME_DIR": home, "XDG_CACHE_HOME": home}
+            done = subprocess.run(command, env=os.environ | surroundings, timeout=300)
         sys.exit(done.returncode)
     finally:
         server.terminate()
