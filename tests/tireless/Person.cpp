@@ -3,7 +3,10 @@
 #include <QtTest>
 
 #include "platform/MessageBox.h"
+#include "platform/OpenDialog.h"
 #include "platform/SaveDialog.h"
+#include "support/Paths.h"
+#include "support/WholeFile.h"
 
 namespace corvane {
 
@@ -101,6 +104,19 @@ QList<Control*> Usable(const QWidget* window) {
   return controls;
 }
 
+/// An OK, a violation, a refusal, and a statement that lacks its days.
+constexpr const char* kAccounts =
+    "account,check,disclosed_apy,balance,rate,term,start_date,end_date,method,minimum_adb,"
+    "minimum_daily\n"
+    "A,disclosure,5.39,1000,5.25,365,,,,,\n"
+    "B,disclosure,5.45,1000,5.25,365,,,,,\n"
+    "C,disclosure,x,1000,5.25,365,,,,,\n"
+    "D,statement,3.00,,3,,2024-01-01,2024-01-03,adb,0,0\n";
+
+QString OwnFile() {
+  return QDir::homePath() + "/accounts.csv";
+}
+
 bool GoesOn(const QPushButton* button) {
   static const QStringList names = {"cmdContinue", "cmdCalculate", "cmdNext", "cmdCompute"};
   return std::any_of(names.begin(), names.end(), [button](const QString& name) {
@@ -127,13 +143,25 @@ Person::Person() {
   SetMessageBoxObserver([this](QMessageBox& box) { AnswerBox(box); });
   SetSaveAnswer([this](const SaveQuestion& question) -> std::optional<QString> {
     if (answers_ % 3 == 0) return std::nullopt;
+    checks_ = question.folder + "/saved.csv";
     return question.folder + (answers_ % 3 == 1 ? "/saved" : "/no such folder/saved.html");
+  });
+  WriteWholeFile(PathOf(OwnFile().toStdString()), kAccounts);
+  SetOpenAnswer([this]() -> std::optional<QString> {
+    if (answers_ % 3 == 0) return std::nullopt;
+    return AnyFile(answers_ / 3);
   });
 }
 
 Person::~Person() {
   SetMessageBoxObserver({});
   SetSaveAnswer({});
+  SetOpenAnswer({});
+}
+
+QString Person::AnyFile(std::uint32_t chance) const {
+  return Pick(QStringList{OwnFile(), OwnFile(), checks_, "/etc/hostname", QDir::tempPath()},
+              chance);
 }
 
 void Person::AnswerBox(QMessageBox& box) const {
@@ -241,7 +269,7 @@ void Person::OpenMenu(const Act& act) {
 
 void Person::DropFile(const Act& act) {
   QMimeData files;
-  files.setUrls({QUrl::fromLocalFile(act.what % 2 ? QDir::tempPath() : "/etc/hostname")});
+  files.setUrls({QUrl::fromLocalFile(AnyFile(act.what))});
   files.setText(AnyPaste(act.what / 2));
   QWidget* over = front_->childAt(front_->rect().center());
   if (!over) over = front_;

@@ -40,7 +40,10 @@ class Person {
   static void Press(QWidget* receiver, int key, Qt::KeyboardModifiers modifiers);
   void AnswerBox(QMessageBox& box) const;
 
+  QString AnyFile(std::uint32_t chance) const;
+
   Form* front_ = nullptr;
+  QString checks_ = "/no such file.csv";  ///< what the person may have added checks to
   std::uint32_t answers_ = 0;
 };
 
