@@ -48,38 +48,13 @@ QString SensibleText(const QString& field, std::uint32_t chance) {
 }
 
 QString AnyText(std::uint32_t chance) {
-  static const QStringList texts = {"",
-                                    " ",
-                                    "-",
-                                    ".",
-                                    "--5",
-                                    "1.2.3",
-                                    "abc",
-                                    "0",
-                                    "-0",
-                                    "00000",
-                                    "1e308",
-                                    "99999999999999999999",
-                                    "0.0000001",
-                                    "1,234.56",
-                                    "1.234,56",
-                                    "$1,234.56",
-                                    "5.25%",
-                                    "1/0",
-                                    "1/",
-                                    "13-45-2024",
-                                    "2024-02-30",
-                                    "<script>alert(1)</script>",
-                                    "^instname^",
-                                    "\\0",
-                                    QString(3000, '9'),
-                                    QString(500, '^'),
-                                    "１２",
-                                    "\u202e12",
-                                    "1\t2\t3",
-                                    "\t\n",
-                                    "NaN",
-                                    "inf"};
+  static const QStringList texts =
+      QString(
+          "| |-|.|--5|1.2.3|abc|0|-0|00000|1e308|99999999999999999999|0.0000001|1,234.56|"
+          "1.234,56|$1,234.56|5.25%|1/0|1/|13-45-2024|2024-02-30|<script>alert(1)</script>|"
+          "^instname^|\\0|１２|\u202e12|1\t2\t3|\t\n|NaN|inf")
+          .split('|') +
+      QStringList{QString(3000, '9'), QString(500, '^')};
   return Pick(texts, chance);
 }
 
@@ -225,36 +200,14 @@ void Person::Press(QWidget* receiver, int key, Qt::KeyboardModifiers modifiers) 
 }
 
 void Person::PressAnyKey(const Act& act) {
-  static const QList<std::pair<int, Qt::KeyboardModifiers>> keys = {
-      {Qt::Key_Tab, {}},
-      {Qt::Key_Backtab, Qt::ShiftModifier},
-      {Qt::Key_Return, {}},
-      {Qt::Key_Enter, Qt::KeypadModifier},
-      {Qt::Key_Escape, {}},
-      {Qt::Key_Space, {}},
-      {Qt::Key_Up, {}},
-      {Qt::Key_Down, {}},
-      {Qt::Key_Left, {}},
-      {Qt::Key_Right, {}},
-      {Qt::Key_PageUp, {}},
-      {Qt::Key_PageDown, {}},
-      {Qt::Key_PageUp, Qt::ControlModifier},
-      {Qt::Key_Home, {}},
-      {Qt::Key_End, {}},
-      {Qt::Key_F1, {}},
-      {Qt::Key_F10, {}},
-      {Qt::Key_D, Qt::ControlModifier},
-      {Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier},
-      {Qt::Key_Z, Qt::ControlModifier},
-      {Qt::Key_V, Qt::ControlModifier},
-      {Qt::Key_S, Qt::ControlModifier},
-      {Qt::Key_N, Qt::ControlModifier},
-      {Qt::Key_Plus, Qt::ControlModifier},
-      {Qt::Key_Minus, Qt::ControlModifier},
-      {Qt::Key_Delete, {}},
-      {Qt::Key_Backspace, {}}};
-  const auto [key, modifiers] = Pick(keys, act.what);
-  Press(front_, key, modifiers);
+  static const QStringList keys =
+      QString(
+          "Tab Shift+Backtab Return Num+Enter Esc Space Up Down Left Right PgUp PgDown Ctrl+PgUp "
+          "Home End F1 F10 Ctrl+D Ctrl+Shift+D Ctrl+Z Ctrl+V Ctrl+S Ctrl+N Ctrl++ Ctrl+- Del "
+          "Backspace")
+          .split(' ');
+  const auto press = QKeySequence::fromString(Pick(keys, act.what))[0];
+  Press(front_, press.key(), press.keyboardModifiers());
 }
 
 void Person::OpenMenu(const Act& act) {
